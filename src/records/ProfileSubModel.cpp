@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "records/ProfileSubModel.h"
+
+#include "records/TextRecord.h"
+
+namespace
+{
+constexpr TextField<ProfileSubModel> fields[] = {
+    { "id", &ProfileSubModel::id },
+    { "type", &ProfileSubModel::type },
+    { "package", &ProfileSubModel::package },
+    { "status", &ProfileSubModel::status },
+};
+}
+
+DecodeResult<ProfileSubModel> ProfileSubModel::fromJson(const QJsonObject &object)
+{
+    return decodeTextRecord(object, fields);
+}
+
+QJsonObject ProfileSubModel::toJson() const
+{
+    return encodeTextRecord(*this, fields);
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// Title of the current destination between the menu button and the user button.
+Rectangle {
+    id: bar
+
+    property alias title: titleText.text
+
+    signal menuTapped()
+    signal userTapped()
+
+    height: 52
+    color: Theme.background
+
+    SymbolButton {
+        objectName: "menuButton"
+        anchors.left: parent.left
+        anchors.leftMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "line.horizontal.3"
+        onClicked: bar.menuTapped()
+    }
+
+    Text {
+        id: titleText
+        anchors.centerIn: parent
+        width: parent.width - 140
+        horizontalAlignment: Text.AlignHCenter
+        elide: Text.ElideRight
+        font.pixelSize: Theme.headlineSize
+        font.weight: Font.DemiBold
+        color: Theme.label
+    }
+
+    SymbolButton {
+        objectName: "userButton"
+        anchors.right: parent.right
+        anchors.rightMargin: 16
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "person.crop.circle.fill"
+        onClicked: bar.userTapped()
+    }
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: Theme.separator
+    }
+}

@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/QmlTypes.h"
+
+#include "shell/HomeViewModel.h"
+#include "shell/RootController.h"
+#include "shell/SymbolImageProvider.h"
+
+#include <QQmlEngine>
+#include <QUrl>
+
+namespace
+{
+constexpr const char *uri = "Tarnelo";
+constexpr int major = 1;
+constexpr int minor = 0;
+}
+
+void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
+{
+    qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/qml/Theme.qml")), uri, major, minor, "Theme");
+    qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
+    qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
+    engine.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider);
+}

@@ -1,0 +1,22 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// A symbol at title size that acts as a button.
+AbstractButton {
+    id: button
+
+    property string symbol
+
+    implicitWidth: 44
+    implicitHeight: 44
+    Accessible.name: symbol
+
+    contentItem: SymbolIcon {
+        name: button.symbol
+        size: Theme.titleSize
+        color: Theme.blue
+        opacity: button.pressed ? 0.4 : 1
+    }
+}

@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "shell/AppOptions.h"
+#include "shell/FirstFrameClock.h"
+#include "shell/QmlTypes.h"
+#include "shell/RootController.h"
+#include "shell/ScreenshotWriter.h"
+#include "shell/SelfTest.h"
+
+#include <QFont>
+#include <QGuiApplication>
+#include <QQmlApplicationEngine>
+#include <QQuickWindow>
+
+namespace
+{
+// Without any display the app still runs: drawn off screen by the software
+// renderer, which is what the screenshot and self-test runs rely on.
+void chooseHeadlessWhenNoDisplay()
+{
+    if (qEnvironmentVariableIsEmpty("DISPLAY") && qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+        qputenv("QT_QUICK_BACKEND", "software");
+    }
+}
+}
+
+int main(int argc, char *argv[])
+{
+    chooseHeadlessWhenNoDisplay();
+    QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
+    QGuiApplication app(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("tarnelo"));
+    QGuiApplication::setApplicationDisplayName(QStringLiteral("Tarnelo"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(TARNELO_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnelo.Tarnelo"));
+    QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+    const AppOptions options = AppOptions::parse(app);
+
+    RootController rootController;
+    QQmlApplicationEngine engine;
+    QmlTypes::registerAll(engine, &rootController);
+
+    if (options.selfTest)
+        return SelfTest::run(engine);
+
+    engine.load(QUrl(QStringLiteral("qrc:/qml/TarneloApp.qml")));
+    auto *window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
+    if (!window)
+        return 1;
+
+    if (options.reportFirstFrame)
+        FirstFrameClock::reportAndQuit(window);
+    else if (!options.screenshotPath.isEmpty())
+        new ScreenshotWriter(window, options.screenshotPath, &app);
+
+    return QGuiApplication::exec();
+}

@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtTest 1.15
+
+// The home shell as a person uses it: taps on the real screen.
+Item {
+    id: window
+    width: 390
+    height: 844
+
+    property var home
+
+    function find(name) {
+        return findChild(window.home, name);
+    }
+
+    function findChild(item, name) {
+        if (item.objectName === name)
+            return item;
+        for (let i = 0; i < item.children.length; ++i) {
+            const found = findChild(item.children[i], name);
+            if (found)
+                return found;
+        }
+        return null;
+    }
+
+    TestCase {
+        name: "HomeView"
+        when: windowShown
+
+        function init() {
+            window.home = Qt.createComponent("qrc:/qml/HomeView.qml").createObject(window, { width: 390, height: 844 });
+            verify(window.home, "the home screen builds");
+        }
+
+        function cleanup() {
+            window.home.destroy();
+            wait(0);
+        }
+
+        function waitForMenu(open) {
+            const menu = find("sideMenu");
+            tryVerify(() => open ? menu.x === 0 : !menu.visible, 2000);
+        }
+
+        function test_menuButtonOpensAndContentTapCloses() {
+            const menu = find("sideMenu");
+            verify(!menu.visible);
+            mouseClick(find("menuButton"));
+            verify(window.home.model.isSideMenuOpen);
+            waitForMenu(true);
+            compare(find("userName").text, "User Name");
+            verify(find("menuItem_AQI Scale"));
+            verify(find("footer_Privacy Policy"));
+            verify(screenshots.save(window.home, "home-menu.png"));
+
+            mouseClick(window.home, 340, 400);
+            verify(!window.home.model.isSideMenuOpen);
+            waitForMenu(false);
+        }
+
+        function test_menuChoiceShowsItsDestinationAndTick() {
+            mouseClick(find("menuButton"));
+            waitForMenu(true);
+            mouseClick(find("menuItem_AQI Scale"));
+            compare(window.home.model.currentKey, "AQI Scale");
+            waitForMenu(false);
+            compare(find("destination").item.title, "LoginView", "a guest is asked to log in");
+            mouseClick(find("menuButton"));
+            waitForMenu(true);
+            verify(findChild(find("menuItem_AQI Scale"), "tick").visible);
+            verify(!findChild(find("menuItem_Home"), "tick").visible);
+        }
+
+        function test_tabTapChangesTitleAndContent() {
+            mouseClick(find("tab0"));
+            mouseClick(find("tab2"));
+            compare(window.home.model.selectedTab, 2);
+            compare(window.home.model.currentKey, "Map");
+            compare(find("destination").item.title, "LoginView");
+            mouseClick(find("tab0"));
+            compare(find("destination").item.title, "MainView");
+        }
+    }
+}

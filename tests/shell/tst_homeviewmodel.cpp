@@ -1,0 +1,210 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "common/StdoutCapture.h"
+#include "shell/HomeDestinations.h"
+#include "shell/HomeViewModel.h"
+
+#include <QDir>
+#include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <memory>
+
+class HomeViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    static void storeUsers(const QStringList &fullnames)
+    {
+        SQliteLogin store;
+        for (const QString &name : fullnames)
+            store.insert(QStringLiteral("7"), name, QStringLiteral("1234567890"), QStringLiteral("a@b.org"), QStringLiteral("1990-01-02"),
+                         QStringLiteral("2"), QStringLiteral("2024-05-06"));
+    }
+
+    // A home screen as it is after it appeared.
+    static std::unique_ptr<HomeViewModel> appearedHome()
+    {
+        auto home = std::make_unique<HomeViewModel>();
+        home->loadUserName();
+        return home;
+    }
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        QCoreApplication::setApplicationName(QStringLiteral("tarnelo-tests-home"));
+    }
+
+    void init() { QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively(); }
+
+    void startsOnTheDashboardAsAGuest()
+    {
+        StdoutCapture console;
+        const auto home = appearedHome();
+        QCOMPARE(console.takeLines().mid(1), QStringList{QStringLiteral("Users table created.")});
+        QCOMPARE(home->selectedTab(), 0);
+        QVERIFY(!home->isSideMenuOpen());
+        QVERIFY(home->selectedMenuItem().isNull());
+        QCOMPARE(home->currentKey(), QStringLiteral("Home"));
+        QCOMPARE(home->destinationView(), QStringLiteral("MainView"));
+        QCOMPARE(home->user_name(), QStringLiteral("User Name"));
+        QVERIFY(home->isGuest());
+        QVERIFY(!home->showingAlert2());
+        QCOMPARE(home->alertMessage2(), QStringLiteral("You must login or signup to continue"));
+        QCOMPARE(home->bottomTabNames().size(), home->bottomTabs().size());
+        QCOMPARE(home->additionalTextItems().size(), 4);
+    }
+
+    void routesEachKey_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("guestView");
+        QTest::addColumn<QString>("signedInView");
+        QTest::newRow("Profile") << "Profile" << "LoginView" << "ProfileView";
+        QTest::newRow("Notification") << "Notification" << "LoginView" << "NotificationView";
+        QTest::newRow("Map") << "Map" << "LoginView" << "SearchLocationView";
+        QTest::newRow("Health Tips") << "Health Tips" << "LoginView" << "TipsView";
+        QTest::newRow("AQI Scale") << "AQI Scale" << "LoginView" << "ScaleView";
+        QTest::newRow("Home") << "Home" << "MainView" << "MainView";
+        QTest::newRow("FAQ") << "FAQ" << "" << "";
+        QTest::newRow("Privacy Policy") << "Privacy Policy" << "" << "";
+        QTest::newRow("case matters") << "home" << "" << "";
+        QTest::newRow("no trimming") << "Map " << "" << "";
+    }
+
+    void routesEachKey()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, guestView);
+        QFETCH(QString, signedInView);
+        QCOMPARE(HomeDestinations::viewFor(key, true), guestView);
+        QCOMPARE(HomeDestinations::viewFor(key, false), signedInView);
+    }
+
+    void storedUserDecidesGuestOrSignedIn_data()
+    {
+        QTest::addColumn<QStringList>("storedNames");
+        QTest::addColumn<QString>("shownName");
+        QTest::addColumn<QString>("profileView");
+        QTest::newRow("empty store") << QStringList{} << "User Name" << "LoginView";
+        QTest::newRow("one user") << QStringList{QStringLiteral("Wanjiru Kamau")} << "Wanjiru Kamau" << "ProfileView";
+        QTest::newRow("named like the guest") << QStringList{QStringLiteral("User Name")} << "User Name" << "LoginView";
+        QTest::newRow("last row wins") << QStringList{QStringLiteral("First Row"), QStringLiteral("Last Row")} << "Last Row" << "ProfileView";
+    }
+
+    void storedUserDecidesGuestOrSignedIn()
+    {
+        QFETCH(QStringList, storedNames);
+        QFETCH(QString, shownName);
+        QFETCH(QString, profileView);
+        storeUsers(storedNames);
+        const auto home = appearedHome();
+        QCOMPARE(home->user_name(), shownName);
+        home->selectTab(4);
+        QCOMPARE(home->destinationView(), profileView);
+    }
+
+    void nameIsReadOnlyWhenTheHomeScreenAppears()
+    {
+        HomeViewModel home;
+        storeUsers({QStringLiteral("Late Arrival")});
+        QCOMPARE(home.user_name(), QStringLiteral("User Name"));
+        QSignalSpy destinationChanges(&home, &HomeViewModel::destinationChanged);
+        home.selectMenuItem(QStringLiteral("AQI Scale"));
+        QCOMPARE(home.destinationView(), QStringLiteral("LoginView"));
+        home.loadUserName();
+        QCOMPARE(home.destinationView(), QStringLiteral("ScaleView"));
+        QCOMPARE(destinationChanges.count(), 2);
+    }
+
+    void tabTapShowsTheTabAndClearsTheMenuChoice()
+    {
+        const auto home = appearedHome();
+        home->toggleSideMenu();
+        home->selectMenuItem(QStringLiteral("AQI Scale"));
+        home->toggleSideMenu();
+        StdoutCapture console;
+        home->selectTab(2);
+        QCOMPARE(console.takeLines(), QStringList{});
+        QVERIFY(home->selectedMenuItem().isNull());
+        QCOMPARE(home->selectedTab(), 2);
+        QCOMPARE(home->selectedBottomTab(), QStringLiteral("Map"));
+        QCOMPARE(home->currentKey(), QStringLiteral("Map"));
+        QVERIFY(!home->isSideMenuOpen());
+    }
+
+    void menuChoiceKeepsTheTabHighlight()
+    {
+        const auto home = appearedHome();
+        home->selectTab(3);
+        home->toggleSideMenu();
+        StdoutCapture console;
+        home->selectMenuItem(QStringLiteral("AQI Scale"));
+        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("Selected: AQI Scale")});
+        QCOMPARE(home->selectedTab(), 3);
+        QCOMPARE(home->selectedBottomTab(), QStringLiteral("Home"));
+        QCOMPARE(home->selectedMenuItem().toString(), QStringLiteral("AQI Scale"));
+        QCOMPARE(home->currentKey(), QStringLiteral("AQI Scale"));
+        QVERIFY(!home->isSideMenuOpen());
+    }
+
+    void footerLines()
+    {
+        const auto home = appearedHome();
+        home->selectTab(1);
+        const QString closingLine = home->additionalTextItems().constLast();
+        QVERIFY(!closingLine.isEmpty());
+
+        StdoutCapture console;
+        home->toggleSideMenu();
+        home->tapAdditionalItem(closingLine);
+        QCOMPARE(console.takeLines(), QStringList{closingLine + QStringLiteral(" tapped")});
+        QVERIFY(!home->isSideMenuOpen());
+        QCOMPARE(home->currentKey(), QStringLiteral("Health Tips"));
+        QVERIFY(home->selectedMenuItem().isNull());
+
+        home->toggleSideMenu();
+        home->tapAdditionalItem(QStringLiteral("Privacy Policy"));
+        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("Privacy Policy tapped")});
+        QVERIFY(!home->isSideMenuOpen());
+        QCOMPARE(home->currentKey(), QStringLiteral("Privacy Policy"));
+        QCOMPARE(home->selectedTab(), 1);
+        QCOMPARE(home->destinationView(), QString());
+    }
+
+    void everyKeyChangeAsksForAFreshScreen()
+    {
+        const auto home = appearedHome();
+        QSignalSpy destinationChanges(home.get(), &HomeViewModel::destinationChanged);
+        home->selectTab(4);
+        home->selectTab(3);
+        QCOMPARE(home->destinationView(), QStringLiteral("LoginView"));
+        QCOMPARE(destinationChanges.count(), 2);
+        home->selectTab(3);
+        QCOMPARE(destinationChanges.count(), 2);
+    }
+
+    void buttonsAndTapsOutsideTheRules()
+    {
+        const auto home = appearedHome();
+        StdoutCapture console;
+        home->userIconTapped();
+        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("User icon tapped")});
+
+        home->toggleSideMenu();
+        QVERIFY(home->isSideMenuOpen());
+        home->closeSideMenu();
+        QVERIFY(!home->isSideMenuOpen());
+
+        home->selectTab(5);
+        home->selectTab(-1);
+        QCOMPARE(home->selectedTab(), 0);
+        QCOMPARE(home->currentKey(), QStringLiteral("Home"));
+    }
+};
+
+QTEST_GUILESS_MAIN(HomeViewModelTest)
+#include "tst_homeviewmodel.moc"
