@@ -15,6 +15,9 @@ for package in "${wanted[@]}"; do
     status="$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null || true)"
     [ "$status" = "install ok installed" ] || missing+=("$package")
 done
+# Registry packages come through npm; Debian's npm only where no npm is there
+# already (a machine's own Node.js would conflict with it).
+command -v npm >/dev/null || missing+=(npm)
 
 if [ "${#missing[@]}" -gt 0 ]; then
     echo "Installing Debian packages: ${missing[*]}"
