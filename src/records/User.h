@@ -19,8 +19,5 @@ struct User {
         return a.userid == b.userid && a.fullname == b.fullname && a.phonenumber == b.phonenumber && a.emailaddress == b.emailaddress
             && a.dateofbirth == b.dateofbirth && a.gender == b.gender && a.registerdate == b.registerdate;
     }
-    friend bool operator!=(const User &a, const User &b)
-    {
-        return !(a == b);
-    }
+    friend bool operator!=(const User &a, const User &b) { return !(a == b); }
 };

@@ -15,7 +15,7 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
     const QCommandLineOption selfTest(QStringLiteral("self-test"), QStringLiteral("Build every screen once and quit; fails on any QML problem."));
     const QCommandLineOption reportFirstFrame(QStringLiteral("report-first-frame"),
                                               QStringLiteral("Print the wall-clock time of the first frame in nanoseconds and quit."));
-    parser.addOptions({screenshot, selfTest, reportFirstFrame});
+    parser.addOptions({ screenshot, selfTest, reportFirstFrame });
     parser.process(app);
 
     AppOptions options;

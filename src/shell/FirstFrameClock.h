@@ -9,4 +9,4 @@ namespace FirstFrameClock
 // window has drawn its first frame, then quits. Compared with the time the
 // process was started, this gives the start-up time as a user feels it.
 void reportAndQuit(QQuickWindow *window);
-}
+} // namespace FirstFrameClock

@@ -11,17 +11,17 @@ struct Destination {
     bool openToGuests;
 };
 
-const std::array<Destination, 6> destinations{{
-    {QLatin1String("Profile"), QLatin1String("ProfileView"), false},
-    {QLatin1String("Notification"), QLatin1String("NotificationView"), false},
-    {QLatin1String("Map"), QLatin1String("SearchLocationView"), false},
-    {QLatin1String("Health Tips"), QLatin1String("TipsView"), false},
-    {QLatin1String("AQI Scale"), QLatin1String("ScaleView"), false},
-    {QLatin1String("Home"), QLatin1String("MainView"), true},
-}};
+const std::array<Destination, 6> destinations { {
+    { QLatin1String("Profile"), QLatin1String("ProfileView"), false },
+    { QLatin1String("Notification"), QLatin1String("NotificationView"), false },
+    { QLatin1String("Map"), QLatin1String("SearchLocationView"), false },
+    { QLatin1String("Health Tips"), QLatin1String("TipsView"), false },
+    { QLatin1String("AQI Scale"), QLatin1String("ScaleView"), false },
+    { QLatin1String("Home"), QLatin1String("MainView"), true },
+} };
 
 const QLatin1String loginView("LoginView");
-}
+} // namespace
 
 QString HomeDestinations::viewFor(const QString &key, bool guest)
 {
@@ -34,7 +34,7 @@ QString HomeDestinations::viewFor(const QString &key, bool guest)
 
 QStringList HomeDestinations::allViews()
 {
-    QStringList views{loginView};
+    QStringList views { loginView };
     for (const Destination &destination : destinations)
         views.append(destination.signedInView);
     return views;

@@ -13,4 +13,4 @@ QString viewFor(const QString &key, bool guest);
 
 // Every screen the content area can show, for loading them all in a self-test.
 QStringList allViews();
-}
+} // namespace HomeDestinations

@@ -9,20 +9,20 @@ namespace
 {
 const QString homeKey = QStringLiteral("Home");
 
-const QStringList tabNames{homeKey, QStringLiteral("Health Tips"), QStringLiteral("Map"), QStringLiteral("Notification"), QStringLiteral("Profile")};
-const QStringList tabSymbols{QStringLiteral("house.fill"), QStringLiteral("heart.text.square.fill"), QStringLiteral("mappin.and.ellipse.circle.fill"),
-                             QStringLiteral("bell.fill"), QStringLiteral("person.crop.circle.fill")};
+const QStringList tabNames { homeKey, QStringLiteral("Health Tips"), QStringLiteral("Map"), QStringLiteral("Notification"), QStringLiteral("Profile") };
+const QStringList tabSymbols { QStringLiteral("house.fill"), QStringLiteral("heart.text.square.fill"), QStringLiteral("mappin.and.ellipse.circle.fill"),
+                               QStringLiteral("bell.fill"), QStringLiteral("person.crop.circle.fill") };
 
 // Footer lines with a destination of their own; choosing one of them empties
 // the content area on purpose. Any other footer line only closes the menu.
-const QStringList footerDestinations{QStringLiteral("FAQ"), QStringLiteral("Contact Us"), QStringLiteral("Privacy Policy")};
+const QStringList footerDestinations { QStringLiteral("FAQ"), QStringLiteral("Contact Us"), QStringLiteral("Privacy Policy") };
 const QString closingFooterLine = QStringLiteral("Close Menu");
 
 QVariantMap menuItem(const char *name, const char *icon)
 {
-    return {{QStringLiteral("name"), QString::fromLatin1(name)}, {QStringLiteral("icon"), QString::fromLatin1(icon)}};
+    return { { QStringLiteral("name"), QString::fromLatin1(name) }, { QStringLiteral("icon"), QString::fromLatin1(icon) } };
 }
-}
+} // namespace
 
 const QString HomeViewModel::guestName = QStringLiteral("User Name");
 
@@ -63,13 +63,13 @@ QStringList HomeViewModel::bottomTabNames() const
 
 QVariantList HomeViewModel::sideMenuItems() const
 {
-    return {menuItem("Home", "house.fill"), menuItem("Profile", "person.crop.circle.fill"), menuItem("Health Tips", "heart.text.square.fill"),
-            menuItem("AQI Scale", "scalemass"), menuItem("Notification", "bell.fill")};
+    return { menuItem("Home", "house.fill"), menuItem("Profile", "person.crop.circle.fill"), menuItem("Health Tips", "heart.text.square.fill"),
+             menuItem("AQI Scale", "scalemass"), menuItem("Notification", "bell.fill") };
 }
 
 QStringList HomeViewModel::additionalTextItems() const
 {
-    return footerDestinations + QStringList{closingFooterLine};
+    return footerDestinations + QStringList { closingFooterLine };
 }
 
 QString HomeViewModel::currentKey() const

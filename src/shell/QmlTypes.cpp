@@ -13,7 +13,7 @@ namespace
 constexpr const char *uri = "Tarnelo";
 constexpr int major = 1;
 constexpr int minor = 0;
-}
+} // namespace
 
 void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
 {

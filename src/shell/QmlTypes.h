@@ -9,4 +9,4 @@ namespace QmlTypes
 // The one place where the app's C++ types and singletons become visible to
 // QML (module "Tarnelo" 1.0). The app and the QML tests both call it.
 void registerAll(QQmlEngine &engine, RootController *rootController);
-}
+} // namespace QmlTypes

@@ -15,7 +15,7 @@ namespace
 constexpr int quietMilliseconds = 400;
 // A screen that never stops animating is still photographed.
 constexpr qint64 longestWaitMilliseconds = 10000;
-}
+} // namespace
 
 ScreenshotWriter::ScreenshotWriter(QQuickWindow *window, QString path, QObject *parent)
     : QObject(parent)

@@ -31,7 +31,7 @@ void load(QQmlEngine &engine, const QString &view)
     }
     qInfo("%s built", qPrintable(view));
 }
-}
+} // namespace
 
 int SelfTest::run(QQmlEngine &engine)
 {

@@ -10,4 +10,4 @@ namespace WindowGrab
 // What the window shows now. Qt 5's software renderer only grabs a window
 // that has never been drawn, so a drawn one is read back from the screen.
 QImage grab(QQuickWindow *window);
-}
+} // namespace WindowGrab

@@ -22,7 +22,7 @@ void chooseHeadlessWhenNoDisplay()
         qputenv("QT_QUICK_BACKEND", "software");
     }
 }
-}
+} // namespace
 
 int main(int argc, char *argv[])
 {

@@ -23,7 +23,7 @@ private Q_SLOTS:
         environment.insert(QStringLiteral("QT_QPA_PLATFORM"), QStringLiteral("offscreen"));
         environment.insert(QStringLiteral("QT_QUICK_BACKEND"), QStringLiteral("software"));
         app.setProcessEnvironment(environment);
-        app.start(QStringLiteral(TARNELO_APP), {QStringLiteral("--screenshot"), screenshot});
+        app.start(QStringLiteral(TARNELO_APP), { QStringLiteral("--screenshot"), screenshot });
         QVERIFY(app.waitForFinished(60000));
         QCOMPARE(app.exitStatus(), QProcess::NormalExit);
         QCOMPARE(app.exitCode(), 0);

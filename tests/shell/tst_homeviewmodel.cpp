@@ -19,8 +19,8 @@ private:
     {
         SQliteLogin store;
         for (const QString &name : fullnames)
-            store.insert(QStringLiteral("7"), name, QStringLiteral("1234567890"), QStringLiteral("a@b.org"), QStringLiteral("1990-01-02"),
-                         QStringLiteral("2"), QStringLiteral("2024-05-06"));
+            store.insert(QStringLiteral("7"), name, QStringLiteral("1234567890"), QStringLiteral("a@b.org"), QStringLiteral("1990-01-02"), QStringLiteral("2"),
+                         QStringLiteral("2024-05-06"));
     }
 
     // A home screen as it is after it appeared.
@@ -44,7 +44,7 @@ private Q_SLOTS:
     {
         StdoutCapture console;
         const auto home = appearedHome();
-        QCOMPARE(console.takeLines().mid(1), QStringList{QStringLiteral("Users table created.")});
+        QCOMPARE(console.takeLines().mid(1), QStringList { QStringLiteral("Users table created.") });
         QCOMPARE(home->selectedTab(), 0);
         QVERIFY(!home->isSideMenuOpen());
         QVERIFY(home->selectedMenuItem().isNull());
@@ -63,16 +63,36 @@ private Q_SLOTS:
         QTest::addColumn<QString>("key");
         QTest::addColumn<QString>("guestView");
         QTest::addColumn<QString>("signedInView");
-        QTest::newRow("Profile") << "Profile" << "LoginView" << "ProfileView";
-        QTest::newRow("Notification") << "Notification" << "LoginView" << "NotificationView";
-        QTest::newRow("Map") << "Map" << "LoginView" << "SearchLocationView";
-        QTest::newRow("Health Tips") << "Health Tips" << "LoginView" << "TipsView";
-        QTest::newRow("AQI Scale") << "AQI Scale" << "LoginView" << "ScaleView";
-        QTest::newRow("Home") << "Home" << "MainView" << "MainView";
-        QTest::newRow("FAQ") << "FAQ" << "" << "";
-        QTest::newRow("Privacy Policy") << "Privacy Policy" << "" << "";
-        QTest::newRow("case matters") << "home" << "" << "";
-        QTest::newRow("no trimming") << "Map " << "" << "";
+        QTest::newRow("Profile") << "Profile"
+                                 << "LoginView"
+                                 << "ProfileView";
+        QTest::newRow("Notification") << "Notification"
+                                      << "LoginView"
+                                      << "NotificationView";
+        QTest::newRow("Map") << "Map"
+                             << "LoginView"
+                             << "SearchLocationView";
+        QTest::newRow("Health Tips") << "Health Tips"
+                                     << "LoginView"
+                                     << "TipsView";
+        QTest::newRow("AQI Scale") << "AQI Scale"
+                                   << "LoginView"
+                                   << "ScaleView";
+        QTest::newRow("Home") << "Home"
+                              << "MainView"
+                              << "MainView";
+        QTest::newRow("FAQ") << "FAQ"
+                             << ""
+                             << "";
+        QTest::newRow("Privacy Policy") << "Privacy Policy"
+                                        << ""
+                                        << "";
+        QTest::newRow("case matters") << "home"
+                                      << ""
+                                      << "";
+        QTest::newRow("no trimming") << "Map "
+                                     << ""
+                                     << "";
     }
 
     void routesEachKey()
@@ -89,10 +109,14 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("storedNames");
         QTest::addColumn<QString>("shownName");
         QTest::addColumn<QString>("profileView");
-        QTest::newRow("empty store") << QStringList{} << "User Name" << "LoginView";
-        QTest::newRow("one user") << QStringList{QStringLiteral("Wanjiru Kamau")} << "Wanjiru Kamau" << "ProfileView";
-        QTest::newRow("named like the guest") << QStringList{QStringLiteral("User Name")} << "User Name" << "LoginView";
-        QTest::newRow("last row wins") << QStringList{QStringLiteral("First Row"), QStringLiteral("Last Row")} << "Last Row" << "ProfileView";
+        QTest::newRow("empty store") << QStringList {} << "User Name"
+                                     << "LoginView";
+        QTest::newRow("one user") << QStringList { QStringLiteral("Wanjiru Kamau") } << "Wanjiru Kamau"
+                                  << "ProfileView";
+        QTest::newRow("named like the guest") << QStringList { QStringLiteral("User Name") } << "User Name"
+                                              << "LoginView";
+        QTest::newRow("last row wins") << QStringList { QStringLiteral("First Row"), QStringLiteral("Last Row") } << "Last Row"
+                                       << "ProfileView";
     }
 
     void storedUserDecidesGuestOrSignedIn()
@@ -110,7 +134,7 @@ private Q_SLOTS:
     void nameIsReadOnlyWhenTheHomeScreenAppears()
     {
         HomeViewModel home;
-        storeUsers({QStringLiteral("Late Arrival")});
+        storeUsers({ QStringLiteral("Late Arrival") });
         QCOMPARE(home.user_name(), QStringLiteral("User Name"));
         QSignalSpy destinationChanges(&home, &HomeViewModel::destinationChanged);
         home.selectMenuItem(QStringLiteral("AQI Scale"));
@@ -128,7 +152,7 @@ private Q_SLOTS:
         home->toggleSideMenu();
         StdoutCapture console;
         home->selectTab(2);
-        QCOMPARE(console.takeLines(), QStringList{});
+        QCOMPARE(console.takeLines(), QStringList {});
         QVERIFY(home->selectedMenuItem().isNull());
         QCOMPARE(home->selectedTab(), 2);
         QCOMPARE(home->selectedBottomTab(), QStringLiteral("Map"));
@@ -143,7 +167,7 @@ private Q_SLOTS:
         home->toggleSideMenu();
         StdoutCapture console;
         home->selectMenuItem(QStringLiteral("AQI Scale"));
-        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("Selected: AQI Scale")});
+        QCOMPARE(console.takeLines(), QStringList { QStringLiteral("Selected: AQI Scale") });
         QCOMPARE(home->selectedTab(), 3);
         QCOMPARE(home->selectedBottomTab(), QStringLiteral("Home"));
         QCOMPARE(home->selectedMenuItem().toString(), QStringLiteral("AQI Scale"));
@@ -161,14 +185,14 @@ private Q_SLOTS:
         StdoutCapture console;
         home->toggleSideMenu();
         home->tapAdditionalItem(closingLine);
-        QCOMPARE(console.takeLines(), QStringList{closingLine + QStringLiteral(" tapped")});
+        QCOMPARE(console.takeLines(), QStringList { closingLine + QStringLiteral(" tapped") });
         QVERIFY(!home->isSideMenuOpen());
         QCOMPARE(home->currentKey(), QStringLiteral("Health Tips"));
         QVERIFY(home->selectedMenuItem().isNull());
 
         home->toggleSideMenu();
         home->tapAdditionalItem(QStringLiteral("Privacy Policy"));
-        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("Privacy Policy tapped")});
+        QCOMPARE(console.takeLines(), QStringList { QStringLiteral("Privacy Policy tapped") });
         QVERIFY(!home->isSideMenuOpen());
         QCOMPARE(home->currentKey(), QStringLiteral("Privacy Policy"));
         QCOMPARE(home->selectedTab(), 1);
@@ -192,7 +216,7 @@ private Q_SLOTS:
         const auto home = appearedHome();
         StdoutCapture console;
         home->userIconTapped();
-        QCOMPARE(console.takeLines(), QStringList{QStringLiteral("User icon tapped")});
+        QCOMPARE(console.takeLines(), QStringList { QStringLiteral("User icon tapped") });
 
         home->toggleSideMenu();
         QVERIFY(home->isSideMenuOpen());
