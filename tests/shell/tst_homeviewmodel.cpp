@@ -2,6 +2,7 @@
 #include "common/StdoutCapture.h"
 #include "shell/HomeDestinations.h"
 #include "shell/HomeViewModel.h"
+#include "shell/SymbolImageProvider.h"
 
 #include <QDir>
 #include <QSignalSpy>
@@ -209,6 +210,17 @@ private Q_SLOTS:
         QCOMPARE(destinationChanges.count(), 2);
         home->selectTab(3);
         QCOMPARE(destinationChanges.count(), 2);
+    }
+
+    void everySymbolHasAnIcon()
+    {
+        HomeViewModel home;
+        QStringList symbols = home.bottomTabs() + QStringList{QStringLiteral("line.horizontal.3")};
+        const QVariantList menuItems = home.sideMenuItems();
+        for (const QVariant &item : menuItems)
+            symbols.append(item.toMap().value(QStringLiteral("icon")).toString());
+        for (const QString &symbol : qAsConst(symbols))
+            QVERIFY2(QFile::exists(SymbolImageProvider::resourceFor(symbol)), qPrintable(symbol));
     }
 
     void buttonsAndTapsOutsideTheRules()
