@@ -5,6 +5,8 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QFont>
+#include <QGuiApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -32,6 +34,7 @@ class Setup : public QObject
 public Q_SLOTS:
     void applicationAvailable()
     {
+        QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
         QStandardPaths::setTestModeEnabled(true);
         QCoreApplication::setApplicationName(QStringLiteral("tarnelo-tests-homeview"));
         QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
