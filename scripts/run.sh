@@ -1,13 +1,12 @@
 #!/usr/bin/env bash
-# Starts the built app. Without a display it runs headless and writes a
-# screenshot of the first screen to <build>/screenshots/ instead.
+# Starts the built app. Without a display (the app then draws off screen by
+# itself) it writes a screenshot of the first screen to <build>/screenshots/.
 set -euo pipefail
 
 build="${1:-build}"
 app="$build/src/tarnelo"
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
-    export QT_QPA_PLATFORM=offscreen QT_QUICK_BACKEND=software
     mkdir -p "$build/screenshots"
     shot="$build/screenshots/home.png"
     "$app" --screenshot "$shot"

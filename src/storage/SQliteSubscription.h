@@ -1,17 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-struct sqlite3;
+#include "storage/ConnectionSlot.h"
 
 // Holds a connection slot only; nothing opens it or gives it tables yet.
-class SQliteSubscription
+class SQliteSubscription : public ConnectionSlot
 {
-public:
-    SQliteSubscription() = default;
-    ~SQliteSubscription();
-    SQliteSubscription(const SQliteSubscription &) = delete;
-    SQliteSubscription &operator=(const SQliteSubscription &) = delete;
-
-    // Owned by this object once set.
-    sqlite3 *db = nullptr;
 };

@@ -10,24 +10,13 @@ Item {
 
     property var home
 
-    function find(name) {
-        return findChild(window.home, name);
-    }
-
-    function findChild(item, name) {
-        if (item.objectName === name)
-            return item;
-        for (let i = 0; i < item.children.length; ++i) {
-            const found = findChild(item.children[i], name);
-            if (found)
-                return found;
-        }
-        return null;
-    }
-
     TestCase {
         name: "HomeView"
         when: windowShown
+
+        function find(name) {
+            return findChild(window.home, name);
+        }
 
         function init() {
             window.home = Qt.createComponent("qrc:/qml/HomeView.qml").createObject(window, { width: 390, height: 844 });

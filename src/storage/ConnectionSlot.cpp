@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "storage/SQliteSubscription.h"
+#include "storage/ConnectionSlot.h"
 
 #include <sqlite3.h>
 
-SQliteSubscription::~SQliteSubscription()
+ConnectionSlot::~ConnectionSlot()
 {
     if (db)
         sqlite3_close(db);
