@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/AlertModel.h"
 
-#include "records/TextRecord.h"
+#include "records/FieldTable.h"
 
 namespace
 {
@@ -13,10 +13,10 @@ constexpr TextField<AlertModel> fields[] = {
 
 DecodeResult<AlertModel> AlertModel::fromJson(const QJsonObject &object)
 {
-    return decodeTextRecord(object, fields);
+    return decodeFields(object, fields);
 }
 
 QJsonObject AlertModel::toJson() const
 {
-    return encodeTextRecord(*this, fields);
+    return encodeFields(*this, fields);
 }

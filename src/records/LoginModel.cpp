@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/LoginModel.h"
 
-#include "records/TextRecord.h"
+#include "records/FieldTable.h"
 
 namespace
 {
@@ -20,10 +20,10 @@ constexpr TextField<LoginModel> fields[] = {
 
 DecodeResult<LoginModel> LoginModel::fromJson(const QJsonObject &object)
 {
-    return decodeTextRecord(object, fields);
+    return decodeFields(object, fields);
 }
 
 QJsonObject LoginModel::toJson() const
 {
-    return encodeTextRecord(*this, fields);
+    return encodeFields(*this, fields);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/NotificationModel.h"
 
-#include "records/TextRecord.h"
+#include "records/FieldTable.h"
 
 namespace
 {
@@ -13,10 +13,10 @@ constexpr TextField<NotificationModel> fields[] = {
 
 DecodeResult<NotificationModel> NotificationModel::fromJson(const QJsonObject &object)
 {
-    return decodeTextRecord(object, fields);
+    return decodeFields(object, fields);
 }
 
 QJsonObject NotificationModel::toJson() const
 {
-    return encodeTextRecord(*this, fields);
+    return encodeFields(*this, fields);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/ProfileMedDetailsModel.h"
 
-#include "records/TextRecord.h"
+#include "records/FieldTable.h"
 
 namespace
 {
@@ -25,10 +25,10 @@ constexpr TextField<ProfileMedDetailsModel> fields[] = {
 
 DecodeResult<ProfileMedDetailsModel> ProfileMedDetailsModel::fromJson(const QJsonObject &object)
 {
-    return decodeTextRecord(object, fields);
+    return decodeFields(object, fields);
 }
 
 QJsonObject ProfileMedDetailsModel::toJson() const
 {
-    return encodeTextRecord(*this, fields);
+    return encodeFields(*this, fields);
 }

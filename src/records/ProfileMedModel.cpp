@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "records/ProfileMedModel.h"
 
-#include "records/TextRecord.h"
+#include "records/FieldTable.h"
 
 namespace
 {
@@ -14,10 +14,10 @@ constexpr TextField<ProfileMedModel> fields[] = {
 
 DecodeResult<ProfileMedModel> ProfileMedModel::fromJson(const QJsonObject &object)
 {
-    return decodeTextRecord(object, fields);
+    return decodeFields(object, fields);
 }
 
 QJsonObject ProfileMedModel::toJson() const
 {
-    return encodeTextRecord(*this, fields);
+    return encodeFields(*this, fields);
 }
