@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "service/ServiceConfig.h"
+
+namespace
+{
+QString setting(const char *variable, const char *builtIn)
+{
+    const QString value = qEnvironmentVariable(variable);
+    return value.isEmpty() ? QString::fromUtf8(builtIn) : value;
+}
+
+QString withoutTrailingSlash(QString url)
+{
+    while (url.endsWith(QLatin1Char('/')))
+        url.chop(1);
+    return url;
+}
+} // namespace
+
+QString ServiceConfig::backendHost()
+{
+    return withoutTrailingSlash(setting("TARNELO_BACKEND_URL", TARNELO_DEFAULT_BACKEND_URL));
+}
+
+QString ServiceConfig::historyHost()
+{
+    return withoutTrailingSlash(setting("TARNELO_HISTORY_URL", TARNELO_DEFAULT_HISTORY_URL));
+}
+
+QString ServiceConfig::historyKey()
+{
+    return setting("TARNELO_OWM_KEY", TARNELO_DEFAULT_OWM_KEY);
+}
+
+QString ServiceConfig::extraCaFile()
+{
+    return qEnvironmentVariable("TARNELO_CA_FILE");
+}
