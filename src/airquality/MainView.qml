@@ -1,6 +1,24 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import Tarnelo 1.0
 
-PendingScreen {
-    title: "MainView"
+// The dashboard: how clean the air is where the user stands, and the weather.
+Flickable {
+    contentHeight: panels.implicitHeight + 32
+    clip: true
+
+    Column {
+        id: panels
+        x: 16
+        y: 16
+        width: parent.width - 32
+        spacing: 16
+
+        MainHeaderView {
+            width: parent.width
+        }
+        MainWeatherView {
+            width: parent.width
+        }
+    }
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/QmlTypes.h"
 
+#include "airquality/MainHeaderViewModel.h"
+#include "airquality/MainWeatherViewModel.h"
 #include "shell/HomeViewModel.h"
 #include "shell/RootController.h"
 #include "shell/SymbolImageProvider.h"
@@ -20,5 +22,7 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/qml/Theme.qml")), uri, major, minor, "Theme");
     qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
+    qmlRegisterType<MainHeaderViewModel>(uri, major, minor, "MainHeaderViewModel");
+    qmlRegisterType<MainWeatherViewModel>(uri, major, minor, "MainWeatherViewModel");
     engine.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider);
 }

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "airquality/MainHeaderViewModel.h"
+
+#include "records/AirQualityData.h"
+#include "service/RecordFetch.h"
+
+MainHeaderViewModel::MainHeaderViewModel(QObject *parent)
+    : PositionedPanel(BackendScript::AirQuality, parent)
+{
+}
+
+void MainHeaderViewModel::requestReadings(const QUrl &url)
+{
+    fetchRecords<AirQualityData>(
+        url, this,
+        [this](const QVector<AirQualityData> &readings) {
+            // An empty answer keeps what is shown.
+            if (!readings.isEmpty())
+                apply(readings.first());
+        },
+        [](const QString &) {});
+}
+
+void MainHeaderViewModel::apply(const AirQualityData &reading)
+{
+    txt_aqi = reading.aqi;
+    txt_co = reading.co;
+    txt_no = reading.no;
+    txt_no2 = reading.no2;
+    txt_o3 = reading.o3;
+    txt_so2 = reading.so2;
+    txt_pm25 = reading.pm25;
+    txt_pm10 = reading.pm10;
+    txt_nh3 = reading.nh3;
+    Q_EMIT readingsChanged();
+}

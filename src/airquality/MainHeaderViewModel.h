@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "airquality/PositionedPanel.h"
+
+struct AirQualityData;
+
+// The dashboard's header: the air-quality index and the eight pollutant
+// readings at the user's position, as the backend reports them.
+class MainHeaderViewModel : public PositionedPanel
+{
+    Q_OBJECT
+    Q_PROPERTY(QString txt_aqi MEMBER txt_aqi NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_co MEMBER txt_co NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_no MEMBER txt_no NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_no2 MEMBER txt_no2 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_o3 MEMBER txt_o3 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_so2 MEMBER txt_so2 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_pm25 MEMBER txt_pm25 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_pm10 MEMBER txt_pm10 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_nh3 MEMBER txt_nh3 NOTIFY readingsChanged)
+
+public:
+    explicit MainHeaderViewModel(QObject *parent = nullptr);
+
+Q_SIGNALS:
+    void readingsChanged();
+
+private:
+    void requestReadings(const QUrl &url) override;
+    void apply(const AirQualityData &reading);
+
+    QString txt_aqi = QStringLiteral("0");
+    QString txt_co = QStringLiteral("0");
+    QString txt_no = QStringLiteral("0");
+    QString txt_no2 = QStringLiteral("0");
+    QString txt_o3 = QStringLiteral("0");
+    QString txt_so2 = QStringLiteral("0");
+    QString txt_pm25 = QStringLiteral("0");
+    QString txt_pm10 = QStringLiteral("0");
+    QString txt_nh3 = QStringLiteral("0");
+};

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "airquality/MainWeatherViewModel.h"
+
+#include "common/Console.h"
+#include "records/WeatherData.h"
+#include "service/RecordFetch.h"
+
+#include <QLocale>
+
+#include <cmath>
+
+MainWeatherViewModel::MainWeatherViewModel(QObject *parent)
+    : PositionedPanel(BackendScript::Weather, parent)
+{
+    updateCelsiusText();
+}
+
+std::optional<QString> MainWeatherViewModel::celsiusTextFor(const QString &kelvin)
+{
+    bool ok = false;
+    const double reading = QLocale::c().toDouble(kelvin, &ok);
+    if (!ok || !std::isfinite(reading))
+        return std::nullopt;
+    // Whole degrees on purpose; the tenth is always ".0".
+    const double celsius = std::round((reading - 273.15) * 10 / 10);
+    const QString number = std::fabs(celsius) < 1e16 ? QString::number(celsius, 'f', 1) : QLocale::c().toString(celsius, 'g', QLocale::FloatingPointShortest);
+    return number + QStringLiteral("°C");
+}
+
+void MainWeatherViewModel::updateCelsiusText()
+{
+    const std::optional<QString> text = celsiusTextFor(txt_temp);
+    if (text)
+        m_celsiusText = *text;
+    else
+        Console::printLine(QStringLiteral("Temperature is not a number, keeping the last one: ") + txt_temp);
+}
+
+void MainWeatherViewModel::requestReadings(const QUrl &url)
+{
+    fetchRecords<WeatherData>(
+        url, this,
+        [this](const QVector<WeatherData> &readings) {
+            if (!readings.isEmpty())
+                apply(readings.first());
+        },
+        [](const QString &) {});
+}
+
+void MainWeatherViewModel::apply(const WeatherData &reading)
+{
+    txt_temp = reading.temp;
+    txt_humid = reading.humid;
+    txt_wind = reading.wind;
+    txt_uv = reading.uv;
+    txt_pollen = reading.pollen;
+    updateCelsiusText();
+    Q_EMIT readingsChanged();
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "service/BackendScript.h"
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+
+// A dashboard panel that asks the backend for its readings at every position
+// it is shown, with the position as "lat" and "lon".
+class PositionedPanel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString searchlat READ searchlat NOTIFY positionChanged)
+    Q_PROPERTY(QString searchlog READ searchlog NOTIFY positionChanged)
+
+public:
+    // Every position sends a new request; none is skipped as a repeat.
+    Q_INVOKABLE void showPosition(double latitude, double longitude);
+
+    QString searchlat() const { return m_searchlat; }
+    QString searchlog() const { return m_searchlog; }
+
+Q_SIGNALS:
+    void positionChanged();
+
+protected:
+    PositionedPanel(BackendScript script, QObject *parent);
+    virtual void requestReadings(const QUrl &url) = 0;
+
+private:
+    BackendScript m_script;
+    QString m_searchlat = QStringLiteral("0");
+    QString m_searchlog = QStringLiteral("0");
+};

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import Tarnelo 1.0
+
+// One reading on a dashboard panel: a small label over its value.
+Rectangle {
+    property alias label: labelText.text
+    property alias value: valueText.text
+
+    implicitHeight: 64
+    radius: 12
+    color: Qt.rgba(1, 1, 1, 0.18)
+
+    Column {
+        anchors.centerIn: parent
+        spacing: 4
+
+        Text {
+            id: labelText
+            anchors.horizontalCenter: parent.horizontalCenter
+            font.pixelSize: Theme.captionSize
+            font.bold: true
+            color: Theme.white
+        }
+        Text {
+            id: valueText
+            anchors.horizontalCenter: parent.horizontalCenter
+            font.pixelSize: Theme.bodySize
+            color: Theme.white
+        }
+    }
+}

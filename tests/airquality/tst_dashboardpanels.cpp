@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScriptedResponder.h"
+#include "airquality/MainHeaderViewModel.h"
+#include "airquality/MainWeatherViewModel.h"
+#include "common/StdoutCapture.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+namespace
+{
+const std::string reading = R"([{"id":"1","aqi":"3","co":"230.5","no":"0.4","no2":"21","o3":"80","so2":"2.1","pm25":"38.2","pm10":"51","nh3":"1.5"}])";
+const std::string weather = R"([{"id":"1","temp":"300.65","humid":"61","wind":"14","uv":"7","pollen":"High"}])";
+
+QString text(const QObject &object, const char *property)
+{
+    return object.property(property).toString();
+}
+} // namespace
+
+class DashboardPanelsTest : public QObject
+{
+    Q_OBJECT
+
+    ScriptedResponder m_responder;
+
+private Q_SLOTS:
+    void initTestCase() { qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8()); }
+
+    void headerShowsTheFirstReadingAndKeepsItOnEmptyOrBadAnswers()
+    {
+        MainHeaderViewModel header;
+        QSignalSpy changed(&header, &MainHeaderViewModel::readingsChanged);
+        m_responder.answer("/tarnelo/v1/airquality.php", 200, reading);
+        header.showPosition(-33.8688, 151.2093);
+        QCOMPARE(text(header, "searchlat"), QStringLiteral("-33.8688"));
+        QVERIFY(changed.wait());
+        QCOMPARE(m_responder.takeTargets(), QStringList { QStringLiteral("/tarnelo/v1/airquality.php?lat=-33.8688&lon=151.2093") });
+        QCOMPARE(text(header, "txt_aqi"), QStringLiteral("3"));
+        QCOMPARE(text(header, "txt_pm25"), QStringLiteral("38.2"));
+        QCOMPARE(text(header, "txt_nh3"), QStringLiteral("1.5"));
+
+        m_responder.answer("/tarnelo/v1/airquality.php", 200, "[]");
+        header.showPosition(1, 2);
+        QStringList targets;
+        QTRY_VERIFY(!(targets += m_responder.takeTargets()).isEmpty());
+        QTest::qWait(50);
+        m_responder.answer("/tarnelo/v1/airquality.php", 200, R"([{"id":"1","aqi":4}])");
+        QStringList lines;
+        {
+            StdoutCapture capture;
+            header.showPosition(1, 2);
+            (void)QTest::qWaitFor([&] { return !(lines += capture.takeLines()).isEmpty(); }, 5000);
+        }
+        QCOMPARE(lines.value(0).left(23), QStringLiteral("Failed to decode data: "));
+        QCOMPARE(changed.count(), 1);
+        QCOMPARE(text(header, "txt_co"), QStringLiteral("230.5"));
+    }
+
+    void weatherShowsWholeDegreesCelsius()
+    {
+        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("300.65")), QStringLiteral("28.0°C"));
+        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("273.15")), QStringLiteral("0.0°C"));
+        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("255.4")), QStringLiteral("-18.0°C"));
+        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("warm")), std::nullopt);
+
+        MainWeatherViewModel panel;
+        QCOMPARE(text(panel, "celsiusText"), QStringLiteral("-251.0°C"));
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 200, weather);
+        QSignalSpy changed(&panel, &MainWeatherViewModel::readingsChanged);
+        panel.showPosition(51.5074, -0.1278);
+        QVERIFY(changed.wait());
+        QCOMPARE(text(panel, "celsiusText"), QStringLiteral("28.0°C"));
+        QCOMPARE(text(panel, "txt_pollen"), QStringLiteral("High"));
+
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 200, R"([{"id":"1","temp":"hot","humid":"61","wind":"14","uv":"7","pollen":"High"}])");
+        QStringList lines;
+        {
+            StdoutCapture capture;
+            panel.showPosition(51.5074, -0.1278);
+            (void)changed.wait();
+            lines = capture.takeLines();
+        }
+        QCOMPARE(lines.size(), 1);
+        QCOMPARE(text(panel, "txt_temp"), QStringLiteral("hot"));
+        QCOMPARE(text(panel, "celsiusText"), QStringLiteral("28.0°C"));
+    }
+};
+
+QTEST_GUILESS_MAIN(DashboardPanelsTest)
+#include "tst_dashboardpanels.moc"
