@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "server/Records.h"
+
+#include "server/AqiScale.h"
+#include "server/ProfileStore.h"
+#include "server/UserStore.h"
+#include "server/WeatherSimulation.h"
+
+#include <cstdio>
+
+namespace
+{
+Json loginRecord(const User &user, const std::string &scode, const std::string &message)
+{
+    const bool known = user.id > 0;
+    return Json { { "userid", known ? std::to_string(user.id) : std::string() },
+                  { "fullname", user.details.fullname },
+                  { "phonenumber", user.details.phone },
+                  { "emailaddress", user.details.email },
+                  { "dateofbirth", user.details.dateOfBirth },
+                  { "gender", user.details.gender },
+                  { "registerdate", user.registered },
+                  { "scode", scode },
+                  { "messageresponse", message } };
+}
+} // namespace
+
+std::string decimalText(double value, int decimals)
+{
+    char text[64];
+    std::snprintf(text, sizeof text, "%.*f", decimals, value);
+    return text;
+}
+
+Json acceptedRecord(const User &user, const std::string &message)
+{
+    return loginRecord(user, "1", message);
+}
+
+Json refusedRecord(const std::string &message)
+{
+    return loginRecord(User(), "0", message);
+}
+
+Json unknownUserRecord()
+{
+    return refusedRecord("Unknown user.");
+}
+
+Json medicalDetailsRecord(std::int64_t userId, const MedicalProfile &profile)
+{
+    Json record { { "id", std::to_string(profile.id) }, { "userid", std::to_string(userId) } };
+    for (size_t i = 0; i < medicalFieldNames.size(); ++i)
+        record[medicalFieldNames[i]] = profile.fields[i];
+    record["scode"] = "1";
+    record["messageresponse"] = "Medical details found.";
+    return record;
+}
+
+Json medicalConditionRecord(const MedicalProfile &profile)
+{
+    return Json { { "id", std::to_string(profile.id) },
+                  { "conditionstatus", profile.field("conditionstatus") },
+                  { "conditionname", profile.field("conditionname") } };
+}
+
+Json subscriptionRecord(const Subscription &subscription)
+{
+    return Json {
+        { "id", std::to_string(subscription.id) }, { "type", subscription.type }, { "package", subscription.package }, { "status", subscription.status }
+    };
+}
+
+Json notificationRecord(std::int64_t userId, const Notification &notification)
+{
+    return Json { { "id", std::to_string(notification.id) },
+                  { "userid", std::to_string(userId) },
+                  { "topic", notification.topic },
+                  { "message", notification.message },
+                  { "readmessage", notification.read ? "1" : "0" },
+                  { "posteddate", notification.posted } };
+}
+
+Json airQualityRecord(int usEpaCategory, const Pollutants &p)
+{
+    return Json { { "id", "1" },
+                  { "aqi", std::to_string(usEpaCategory) },
+                  { "co", decimalText(p.co, 2) },
+                  { "no", decimalText(p.no, 2) },
+                  { "no2", decimalText(p.no2, 2) },
+                  { "o3", decimalText(p.o3, 2) },
+                  { "so2", decimalText(p.so2, 2) },
+                  { "pm25", decimalText(p.pm25, 2) },
+                  { "pm10", decimalText(p.pm10, 2) },
+                  { "nh3", decimalText(p.nh3, 2) } };
+}
+
+Json weatherRecord(const WeatherReading &weather)
+{
+    return Json { { "id", "1" },
+                  { "temp", decimalText(weather.kelvin, 2) },
+                  { "humid", decimalText(weather.humidityPercent, 0) },
+                  { "wind", decimalText(weather.windKmh, 1) },
+                  { "uv", decimalText(weather.uvIndex, 1) },
+                  { "pollen", weather.pollen } };
+}

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "BackendClient.h"
+#include "common/DevServerProcess.h"
+
+#include <QEventLoop>
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QSslCertificate>
+#include <QSslConfiguration>
+#include <QTest>
+#include <QUrlQuery>
+
+#include <memory>
+
+namespace
+{
+// The keys of every account answer, accepted or refused.
+const std::vector<std::string> loginModel { "userid", "fullname",     "phonenumber", "emailaddress",   "dateofbirth",
+                                            "gender", "registerdate", "scode",       "messageresponse" };
+
+// The app's own answer to the TLS question: does Qt trust the server with its certificate added as a CA?
+QNetworkReply::NetworkError fetchWithQt(const QUrl &url, const QString &extraCaFile)
+{
+    QNetworkAccessManager manager;
+    QNetworkRequest request(url);
+    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
+    if (!extraCaFile.isEmpty())
+        tls.addCaCertificates(extraCaFile);
+    request.setSslConfiguration(tls);
+    std::unique_ptr<QNetworkReply> reply(manager.get(request));
+    QEventLoop loop;
+    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
+    loop.exec();
+    return reply->error();
+}
+} // namespace
+
+// What every answer looks like, for good input and bad, as the app decodes it.
+class DevServerContractTest : public QObject
+{
+    Q_OBJECT
+
+    std::unique_ptr<DevServerProcess> m_server;
+    std::unique_ptr<BackendClient> m_client;
+    std::string m_userId;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        m_server = std::make_unique<DevServerProcess>();
+        QVERIFY2(m_server->isReady(), qPrintable(m_server->consoleLines().join(QLatin1Char('\n'))));
+        m_client = std::make_unique<BackendClient>(*m_server);
+        const Answer registered = m_client->script(
+            "register.php", { { "fullname", "Rosalind Franklin" }, { "emailaddress", "rosalind@example.test" }, { "password", "Photo-51" } });
+        m_userId = field(registered.first(), "userid").toStdString();
+    }
+
+    void badInputIsRefusedWithJson_data()
+    {
+        QTest::addColumn<QString>("target");
+        QTest::addColumn<int>("status");
+        QTest::addColumn<QString>("message");
+        const auto row = [](const char *name, const std::string &target, int status, const char *message) {
+            QTest::newRow(name) << QString::fromStdString("/tarnelo/v1/" + target) << status << QString::fromUtf8(message);
+        };
+        row("missing", "login.php?username=a%40b.test", 200, "Missing parameter: passcode");
+        row("empty", "register.php?fullname=&emailaddress=a%40b.test&password=x", 200, "Missing parameter: fullname");
+        row("too long", "feedbacks.php?userid=1&feedback=" + std::string(256, 'a'), 200, "Parameter too long: feedback");
+        row("invalid UTF-8", "login.php?username=%FF&passcode=x", 200, "Invalid UTF-8 in parameter: username");
+        row("overlong UTF-8", "login.php?username=%C0%AF&passcode=x", 200, "Invalid UTF-8 in parameter: username");
+        row("userid letters", "notification.php?userid=12abc", 200, "Malformed parameter: userid");
+        row("userid negative", "checksubscription.php?userid=-3", 200, "Malformed parameter: userid");
+        row("userid zero", "logout.php?userid=0", 200, "Malformed parameter: userid");
+        // The address is printed on the console: a line break would forge a line.
+        row("line break in e-mail", "resetpass.php?emailaddress=x%0Aforged%40b.test", 200, "Malformed parameter: emailaddress");
+        row("not an e-mail", "register.php?fullname=A&emailaddress=a.test&password=x", 200, "Malformed parameter: emailaddress");
+        row("no such day", "register.php?fullname=A&emailaddress=a%40b.test&password=x&dateofbirth=2023-02-30", 200, "Malformed parameter: dateofbirth");
+        row("gender", "register.php?fullname=A&emailaddress=a%40b.test&password=x&gender=4", 200, "Malformed parameter: gender");
+        row("latitude range", "airquality.php?lat=90.5&lon=0", 200, "Malformed parameter: lat");
+        row("longitude text", "weatherapi.php?lat=1&lon=east", 200, "Malformed parameter: lon");
+        row("longitude nan", "airquality.php?lat=1&lon=nan", 200, "Malformed parameter: lon");
+        row("unknown user", "feedbacks.php?userid=999999&feedback=hi", 200, "Unknown user.");
+        row("unknown script", "nosuch.php?userid=1", 404, "Unknown script: nosuch.php");
+        row("no script", "", 404, "Nothing is served at /tarnelo/v1/");
+    }
+
+    // A refused LoginModel naming the problem, never a 500 or a body the app cannot read.
+    void badInputIsRefusedWithJson()
+    {
+        QFETCH(QString, target);
+        QFETCH(int, status);
+        QFETCH(QString, message);
+        const Answer answer = m_client->raw(target.toStdString());
+        QCOMPARE(answer.status, status);
+        QVERIFY2(answer.body.is_array() && answer.body.size() == 1, qPrintable(dumped(answer.body)));
+        const nlohmann::json record = answer.first();
+        QCOMPARE(record.size(), loginModel.size());
+        QCOMPARE(field(record, "scode"), QLatin1String("0"));
+        QCOMPARE(field(record, "userid"), QString());
+        QVERIFY2(field(record, "messageresponse").startsWith(message), qPrintable(field(record, "messageresponse")));
+    }
+
+    // Limits count characters, not bytes; lists of an unknown user are empty, not refused.
+    void acceptedEdgeCases()
+    {
+        QString accented(255, QChar(0xE9));
+        const Answer longest = m_client->script("feedbacks.php", { { "userid", m_userId }, { "feedback", accented.toStdString() } });
+        QCOMPARE(field(longest.first(), "scode"), QLatin1String("1"));
+        for (const char *script : { "notification.php", "checksubscription.php", "checkmedical.php", "checkmedicaldetails.php" })
+            QCOMPARE(dumped(m_client->script(script, { { "userid", "987654" } }).body), QLatin1String("[]"));
+    }
+
+    // Qt, as the app uses it, trusts the server only with its certificate added.
+    void qtTrustsTheServerThroughItsCertificate()
+    {
+        QUrl url = m_server->backendUrl();
+        url.setPath(QStringLiteral("/tarnelo/v1/airquality.php"));
+        url.setQuery(QStringLiteral("lat=51.5&lon=-0.12"));
+        QCOMPARE(fetchWithQt(url, m_server->caFile()), QNetworkReply::NoError);
+        QCOMPARE(fetchWithQt(url, QString()), QNetworkReply::SslHandshakeFailedError);
+    }
+
+    // Every request gets a line, and no password appears in any of them.
+    void consoleLinesHideSecrets()
+    {
+        m_client->script("login.php", { { "username", "rosalind@example.test" }, { "passcode", "Secret-Passcode-7" } });
+        // Masking goes by the decoded key.
+        m_client->raw("/tarnelo/v1/register.php?fullname=X&emailaddress=x%40example.test&pass%77ord=Secret-Password-8");
+        QVERIFY(!m_server->waitForConsoleLine(QStringLiteral("login.php?passcode=***&username=rosalind")).isEmpty());
+        QVERIFY(!m_server->waitForConsoleLine(QStringLiteral("pass%77ord=*** -> 200")).isEmpty());
+        m_client->script("airquality.php", { { "lat", "51.5" }, { "lon", "-0.12" } });
+        QVERIFY(m_server->waitForConsoleLine(QStringLiteral("GET /tarnelo/v1/airquality.php?lat=51.5&lon=-0.12 ")).endsWith(QLatin1String("[simulated]")));
+        const QStringList lines = m_server->consoleLines();
+        QVERIFY(lines.first().startsWith(QLatin1String("Tarnelo development backend ready: https=")));
+        for (const QString &line : lines)
+            QVERIFY2(!line.contains(QLatin1String("Secret-Pass")) && !line.contains(QLatin1String("Photo-51")), qPrintable(line));
+    }
+
+    void stopsCleanlyOnSigterm() { QCOMPARE(m_server->stop(), 0); }
+};
+
+QTEST_GUILESS_MAIN(DevServerContractTest)
+#include "tst_devserver_contract.moc"
