@@ -1,10 +1,39 @@
 #!/usr/bin/env bash
-# Starts the built app. Without a display (the app then draws off screen by
-# itself) it writes a screenshot of the first screen to <build>/screenshots/.
+# Starts the development backend on loopback and the built app against it.
+# Without a display (the app then draws off screen by itself) the app writes a
+# screenshot of the first screen to <build>/screenshots/ and quits.
 set -euo pipefail
 
 build="${1:-build}"
 app="$build/src/tarnelo"
+server="$build/server/tarnelo-devserver"
+data="$build/devserver-data"
+log="$build/devserver.log"
+history_key=0123456789abcdef0123456789abcdef
+
+# The backend's console goes to the terminal and to a log; ports are chosen
+# by the system and read back from its ready line.
+: > "$log"
+"$server" --data "$data" --https-port 0 --http-port 0 --history-key "$history_key" > >(tee -a "$log") 2>&1 &
+server_pid=$!
+trap 'kill "$server_pid" 2>/dev/null || true; wait "$server_pid" 2>/dev/null || true' EXIT
+
+ready=""
+for _ in $(seq 1 150); do
+    ready="$(grep -m1 '^Tarnelo development backend ready:' "$log" || true)"
+    [ -n "$ready" ] && break
+    kill -0 "$server_pid" 2>/dev/null || { echo "The development backend did not start; see $log" >&2; exit 1; }
+    sleep 0.1
+done
+[ -n "$ready" ] || { echo "The development backend did not get ready; see $log" >&2; exit 1; }
+field() { sed -n "s/.* $1=\([^ ]*\).*/\1/p" <<<"$ready"; }
+
+export TARNELO_BACKEND_URL="https://127.0.0.1:$(field https)"
+export TARNELO_HISTORY_URL="http://127.0.0.1:$(field http)"
+export TARNELO_CA_FILE="${ready#* ca=}"
+export TARNELO_OWM_KEY="$history_key"
+# Until positions come from the device, the dashboard shows central Nairobi.
+export TARNELO_POSITION="${TARNELO_POSITION:-fixed:-1.2864,36.8172}"
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     mkdir -p "$build/screenshots"
@@ -12,5 +41,5 @@ if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     "$app" --screenshot "$shot"
     echo "No display: wrote $shot"
 else
-    exec "$app"
+    "$app"
 fi
