@@ -73,9 +73,13 @@ private Q_SLOTS:
     {
         const QString password = QStringLiteral("p&ss=word +é");
         const LoginModel registered = accountAnswer(BackendScript::Register,
-                                                    { { "fullname", QStringLiteral("Amina Wanjiru") }, { "emailaddress", QStringLiteral("amina@example.com") },
-                                                      { "phonenumber", QStringLiteral("1234567890") }, { "dateofbirth", QStringLiteral("1990-04-02") },
-                                                      { "password", password }, { "gender", QStringLiteral("2") }, { "referral_code", QString() } });
+                                                    { { "fullname", QStringLiteral("Amina Wanjiru") },
+                                                      { "emailaddress", QStringLiteral("amina@example.com") },
+                                                      { "phonenumber", QStringLiteral("1234567890") },
+                                                      { "dateofbirth", QStringLiteral("1990-04-02") },
+                                                      { "password", password },
+                                                      { "gender", QStringLiteral("2") },
+                                                      { "referral_code", QString() } });
         QCOMPARE(registered.scode, QStringLiteral("1"));
         const LoginModel login = accountAnswer(BackendScript::Login, { { "username", QStringLiteral("amina@example.com") }, { "passcode", password } });
         QCOMPARE(login.scode, QStringLiteral("1"));
@@ -84,17 +88,26 @@ private Q_SLOTS:
         SQliteLogin().insert(login.userid, login.fullname, login.phonenumber, login.emailaddress, login.dateofbirth, login.gender, login.registerdate);
 
         const LoginModel updated = accountAnswer(BackendScript::UpdateUser,
-                                                 { { "fullname", QStringLiteral("Amina W.") }, { "emailaddress", QStringLiteral("amina@example.com") },
-                                                   { "phonenumber", QStringLiteral("1234567890") }, { "dateofbirth", QStringLiteral("1990-04-03") },
-                                                   { "gender", QStringLiteral("2") }, { "userid", login.userid } });
+                                                 { { "fullname", QStringLiteral("Amina W.") },
+                                                   { "emailaddress", QStringLiteral("amina@example.com") },
+                                                   { "phonenumber", QStringLiteral("1234567890") },
+                                                   { "dateofbirth", QStringLiteral("1990-04-03") },
+                                                   { "gender", QStringLiteral("2") },
+                                                   { "userid", login.userid } });
         QCOMPARE(updated.scode, QStringLiteral("1"));
         QCOMPARE(updated.dateofbirth, QStringLiteral("1990-04-03"));
-        const LoginModel saved = accountAnswer(
-            BackendScript::SaveMedical,
-            { { "userid", login.userid }, { "conditionstatus", QStringLiteral("1") }, { "conditionname", QStringLiteral("Asthma") },
-              { "emergencycontact", QStringLiteral("Wanjiku") }, { "phonenumber", QStringLiteral("0700000000") }, { "relationship", QStringLiteral("Sister") },
-              { "weight", QStringLiteral("65") }, { "height", QStringLiteral("170") }, { "smokerstatus", QStringLiteral("Non-Smoker") },
-              { "smoker", QStringLiteral("No") }, { "moredetails", QStringLiteral("Inhaler & spacer") } });
+        const LoginModel saved = accountAnswer(BackendScript::SaveMedical,
+                                               { { "userid", login.userid },
+                                                 { "conditionstatus", QStringLiteral("1") },
+                                                 { "conditionname", QStringLiteral("Asthma") },
+                                                 { "emergencycontact", QStringLiteral("Wanjiku") },
+                                                 { "phonenumber", QStringLiteral("0700000000") },
+                                                 { "relationship", QStringLiteral("Sister") },
+                                                 { "weight", QStringLiteral("65") },
+                                                 { "height", QStringLiteral("170") },
+                                                 { "smokerstatus", QStringLiteral("Non-Smoker") },
+                                                 { "smoker", QStringLiteral("No") },
+                                                 { "moredetails", QStringLiteral("Inhaler & spacer") } });
         QCOMPARE(saved.scode, QStringLiteral("1"));
         QCOMPARE(accountAnswer(BackendScript::Feedbacks, { { "userid", login.userid }, { "feedback", QStringLiteral("Clear & quick") } }).scode,
                  QStringLiteral("1"));
@@ -106,12 +119,24 @@ private Q_SLOTS:
         QCOMPARE(fetched<ProfileSubscriptiontUrl>()->items().size(), 1);
         QVERIFY(!fetched<NotificationUrl>()->items().isEmpty());
 
-        sendLocationLog({ { "txt_aqi", QStringLiteral("2") }, { "txt_co", QStringLiteral("201.9") }, { "txt_no", QStringLiteral("0.1") },
-                          { "txt_no2", QStringLiteral("3.5") }, { "txt_o3", QStringLiteral("68.7") }, { "txt_so2", QStringLiteral("0.6") },
-                          { "txt_pm25", QStringLiteral("4.2") }, { "txt_pm10", QStringLiteral("5.1") }, { "txt_nh3", QStringLiteral("0.9") },
-                          { "roundedCelsius", QStringLiteral("28.0") }, { "txt_humid", QStringLiteral("40") }, { "txt_wind", QStringLiteral("12") },
-                          { "txt_uv", QStringLiteral("5") }, { "txt_pollen", QStringLiteral("Low") }, { "txt_lat", QStringLiteral("-1.2921") },
-                          { "txt_log", QStringLiteral("36.8219") }, { "searchlat", QStringLiteral("-1.2921") }, { "searchlog", QStringLiteral("36.8219") },
+        sendLocationLog({ { "txt_aqi", QStringLiteral("2") },
+                          { "txt_co", QStringLiteral("201.9") },
+                          { "txt_no", QStringLiteral("0.1") },
+                          { "txt_no2", QStringLiteral("3.5") },
+                          { "txt_o3", QStringLiteral("68.7") },
+                          { "txt_so2", QStringLiteral("0.6") },
+                          { "txt_pm25", QStringLiteral("4.2") },
+                          { "txt_pm10", QStringLiteral("5.1") },
+                          { "txt_nh3", QStringLiteral("0.9") },
+                          { "roundedCelsius", QStringLiteral("28.0") },
+                          { "txt_humid", QStringLiteral("40") },
+                          { "txt_wind", QStringLiteral("12") },
+                          { "txt_uv", QStringLiteral("5") },
+                          { "txt_pollen", QStringLiteral("Low") },
+                          { "txt_lat", QStringLiteral("-1.2921") },
+                          { "txt_log", QStringLiteral("36.8219") },
+                          { "searchlat", QStringLiteral("-1.2921") },
+                          { "searchlog", QStringLiteral("36.8219") },
                           { "user_id", login.userid } },
                         this);
         QVERIFY(!m_server->waitForConsoleLine(QStringLiteral("locationlogs.php")).isEmpty());
@@ -130,7 +155,8 @@ private Q_SLOTS:
         QCOMPARE(airQuality.value->size(), 1);
         const int category = airQuality.value->first().aqi.toInt();
         QVERIFY2(category >= 1 && category <= 6, qPrintable(airQuality.value->first().aqi));
-        const auto weather = decodeList<WeatherData>(answerTo(BackendScript::Weather, { { "lat", coordinateText(51.5074) }, { "lon", coordinateText(-0.1278) } }).body);
+        const auto weather
+            = decodeList<WeatherData>(answerTo(BackendScript::Weather, { { "lat", coordinateText(51.5074) }, { "lon", coordinateText(-0.1278) } }).body);
         QVERIFY2(weather.ok(), qPrintable(weather.error));
         QCOMPARE(weather.value->size(), 1);
 
