@@ -2,7 +2,6 @@
 #include "airquality/MainHeaderViewModel.h"
 
 #include "records/AirQualityData.h"
-#include "service/RecordFetch.h"
 
 MainHeaderViewModel::MainHeaderViewModel(QObject *parent)
     : PositionedPanel(BackendScript::AirQuality, parent)
@@ -11,14 +10,7 @@ MainHeaderViewModel::MainHeaderViewModel(QObject *parent)
 
 void MainHeaderViewModel::requestReadings(const QUrl &url)
 {
-    fetchRecords<AirQualityData>(
-        url, this,
-        [this](const QVector<AirQualityData> &readings) {
-            // An empty answer keeps what is shown.
-            if (!readings.isEmpty())
-                apply(readings.first());
-        },
-        [](const QString &) {});
+    fetchFirstRecord<AirQualityData>(url, [this](const AirQualityData &reading) { apply(reading); });
 }
 
 void MainHeaderViewModel::apply(const AirQualityData &reading)

@@ -3,7 +3,6 @@
 
 #include "common/Console.h"
 #include "records/WeatherData.h"
-#include "service/RecordFetch.h"
 
 #include <QLocale>
 
@@ -38,13 +37,7 @@ void MainWeatherViewModel::updateCelsiusText()
 
 void MainWeatherViewModel::requestReadings(const QUrl &url)
 {
-    fetchRecords<WeatherData>(
-        url, this,
-        [this](const QVector<WeatherData> &readings) {
-            if (!readings.isEmpty())
-                apply(readings.first());
-        },
-        [](const QString &) {});
+    fetchFirstRecord<WeatherData>(url, [this](const WeatherData &reading) { apply(reading); });
 }
 
 void MainWeatherViewModel::apply(const WeatherData &reading)

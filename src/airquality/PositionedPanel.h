@@ -2,6 +2,7 @@
 #pragma once
 
 #include "service/BackendScript.h"
+#include "service/RecordFetch.h"
 
 #include <QObject>
 #include <QString>
@@ -28,6 +29,19 @@ Q_SIGNALS:
 protected:
     PositionedPanel(BackendScript script, QObject *parent);
     virtual void requestReadings(const QUrl &url) = 0;
+
+    // Fetches a list of T and hands its first record to `apply`; an empty
+    // list or a failure keeps what the panel shows.
+    template<typename T, typename Apply> void fetchFirstRecord(const QUrl &url, Apply apply)
+    {
+        fetchRecords<T>(
+            url, this,
+            [apply](const QVector<T> &records) {
+                if (!records.isEmpty())
+                    apply(records.first());
+            },
+            [](const QString &) {});
+    }
 
 private:
     BackendScript m_script;
