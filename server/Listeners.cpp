@@ -16,6 +16,8 @@ void configure(httplib::Server &server)
 {
     // Small answers must leave at once, not wait for the client's delayed ACK (Nagle).
     server.set_tcp_nodelay(true);
+    // A stop waits for idle kept-alive connections to time out; keep that short.
+    server.set_keep_alive_timeout(1);
     server.set_logger([](const httplib::Request &request, const httplib::Response &response) { Console::printLine(requestLogLine(request, response)); });
 }
 

@@ -13,6 +13,9 @@ ScriptedResponder::ScriptedResponder()
         response.status = scripted == m_answers.end() ? 200 : scripted->second.status;
         response.set_content(scripted == m_answers.end() ? std::string("[]") : scripted->second.body, "application/json");
     });
+    // The client keeps its connection open; a short wait for its next request
+    // lets the server stop soon after the test.
+    m_server->set_keep_alive_timeout(1);
     m_port = m_server->bind_to_any_port("127.0.0.1");
     m_thread = std::thread([this] { m_server->listen_after_bind(); });
 }
