@@ -4,6 +4,7 @@
 # screenshot of the first screen to <build>/screenshots/ and quits.
 set -euo pipefail
 
+root="$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)"
 build="${1:-build}"
 app="$build/src/tarnelo"
 server="$build/server/tarnelo-devserver"
@@ -32,8 +33,9 @@ export TARNELO_BACKEND_URL="https://127.0.0.1:$(field https)"
 export TARNELO_HISTORY_URL="http://127.0.0.1:$(field http)"
 export TARNELO_CA_FILE="${ready#* ca=}"
 export TARNELO_OWM_KEY="$history_key"
-# Until positions come from the device, the dashboard shows central Nairobi.
-export TARNELO_POSITION="${TARNELO_POSITION:-fixed:-1.2864,36.8172}"
+# Unless told otherwise, the app walks through central Nairobi, replaying a
+# recorded log in real time.
+export TARNELO_POSITION="${TARNELO_POSITION:-nmea:$root/demo/nairobi-walk.nmea}"
 
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     mkdir -p "$build/screenshots"

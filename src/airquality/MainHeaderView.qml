@@ -35,7 +35,8 @@ Rectangle {
                 size: 16
             }
             Text {
-                text: "Loading.. " + new Date().toLocaleDateString(Qt.locale(), Locale.LongFormat)
+                objectName: "townDate"
+                text: (header.model.locationManager.townName || "Loading..") + " " + new Date().toLocaleDateString(Qt.locale(), Locale.LongFormat)
                 font.pixelSize: Theme.captionSize + 2
                 color: Theme.white
             }

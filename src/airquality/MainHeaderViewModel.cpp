@@ -4,7 +4,13 @@
 #include "records/AirQualityData.h"
 
 MainHeaderViewModel::MainHeaderViewModel(QObject *parent)
-    : PositionedPanel(BackendScript::AirQuality, parent)
+    : MainHeaderViewModel(new LocationManagerFunHD, parent)
+{
+}
+
+MainHeaderViewModel::MainHeaderViewModel(LocationManagerFunHD *locationManager, QObject *parent)
+    : PositionedPanel(BackendScript::AirQuality, locationManager, parent)
+    , m_locationManager(locationManager)
 {
 }
 

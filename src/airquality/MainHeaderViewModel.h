@@ -2,6 +2,7 @@
 #pragma once
 
 #include "airquality/PositionedPanel.h"
+#include "location/GeocodingProvider.h"
 
 struct AirQualityData;
 
@@ -10,6 +11,8 @@ struct AirQualityData;
 class MainHeaderViewModel : public PositionedPanel
 {
     Q_OBJECT
+    // Names the town of each position too.
+    Q_PROPERTY(GeocodingProvider *locationManager READ locationManager CONSTANT)
     Q_PROPERTY(QString txt_aqi MEMBER txt_aqi NOTIFY readingsChanged)
     Q_PROPERTY(QString txt_co MEMBER txt_co NOTIFY readingsChanged)
     Q_PROPERTY(QString txt_no MEMBER txt_no NOTIFY readingsChanged)
@@ -23,13 +26,17 @@ class MainHeaderViewModel : public PositionedPanel
 public:
     explicit MainHeaderViewModel(QObject *parent = nullptr);
 
+    LocationManagerFunHD *locationManager() const { return m_locationManager; }
+
 Q_SIGNALS:
     void readingsChanged();
 
 private:
+    MainHeaderViewModel(LocationManagerFunHD *locationManager, QObject *parent);
     void requestReadings(const QUrl &url) override;
     void apply(const AirQualityData &reading);
 
+    LocationManagerFunHD *m_locationManager;
     QString txt_aqi = QStringLiteral("0");
     QString txt_co = QStringLiteral("0");
     QString txt_no = QStringLiteral("0");

@@ -2,6 +2,8 @@
 #include "airquality/MainWeatherViewModel.h"
 
 #include "common/Console.h"
+#include "common/DoubleText.h"
+#include "location/LoggingProvider.h"
 #include "records/WeatherData.h"
 
 #include <QLocale>
@@ -9,7 +11,7 @@
 #include <cmath>
 
 MainWeatherViewModel::MainWeatherViewModel(QObject *parent)
-    : PositionedPanel(BackendScript::Weather, parent)
+    : PositionedPanel(BackendScript::Weather, new LocationManagerFunss, parent)
 {
     updateCelsiusText();
 }
@@ -22,8 +24,7 @@ std::optional<QString> MainWeatherViewModel::celsiusTextFor(const QString &kelvi
         return std::nullopt;
     // Whole degrees on purpose; the tenth is always ".0".
     const double celsius = std::round((reading - 273.15) * 10 / 10);
-    const QString number = std::fabs(celsius) < 1e16 ? QString::number(celsius, 'f', 1) : QLocale::c().toString(celsius, 'g', QLocale::FloatingPointShortest);
-    return number + QStringLiteral("°C");
+    return doubleText(celsius) + QStringLiteral("°C");
 }
 
 void MainWeatherViewModel::updateCelsiusText()

@@ -1,20 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "airquality/PositionedPanel.h"
 
-#include "location/PositionSetting.h"
+#include "location/LocationProvider.h"
 #include "service/BackendQuery.h"
 
-#include <QTimer>
-
-PositionedPanel::PositionedPanel(BackendScript script, QObject *parent)
+PositionedPanel::PositionedPanel(BackendScript script, LocationProvider *provider, QObject *parent)
     : QObject(parent)
     , m_script(script)
 {
-    // Until the panels have position providers of their own, a fixed position
-    // from the environment is shown as soon as the panel is up.
-    const PositionSetting setting = PositionSetting::fromEnvironment();
-    if (setting.source == PositionSetting::Source::Fixed)
-        QTimer::singleShot(0, this, [this, at = setting.fixedPosition] { showPosition(at.latitude(), at.longitude()); });
+    provider->setParent(this);
+    connect(provider, &LocationProvider::currentLocationChanged, this, [this, provider] {
+        if (const auto &location = provider->currentLocation())
+            showPosition(location->coordinate().latitude(), location->coordinate().longitude());
+    });
 }
 
 void PositionedPanel::showPosition(double latitude, double longitude)

@@ -8,8 +8,11 @@
 #include <QString>
 #include <QUrl>
 
-// A dashboard panel that asks the backend for its readings at every position
-// it is shown, with the position as "lat" and "lon".
+class LocationProvider;
+
+// A dashboard panel with a position provider of its own: at every position
+// the provider publishes, it asks the backend for its readings there, with
+// the position as "lat" and "lon".
 class PositionedPanel : public QObject
 {
     Q_OBJECT
@@ -27,7 +30,8 @@ Q_SIGNALS:
     void positionChanged();
 
 protected:
-    PositionedPanel(BackendScript script, QObject *parent);
+    // Takes ownership of the provider.
+    PositionedPanel(BackendScript script, LocationProvider *provider, QObject *parent);
     virtual void requestReadings(const QUrl &url) = 0;
 
     // Fetches a list of T and hands its first record to `apply`; an empty

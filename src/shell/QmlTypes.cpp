@@ -3,6 +3,7 @@
 
 #include "airquality/MainHeaderViewModel.h"
 #include "airquality/MainWeatherViewModel.h"
+#include "location/SearchLocationViewModel.h"
 #include "shell/HomeViewModel.h"
 #include "shell/RootController.h"
 #include "shell/SymbolImageProvider.h"
@@ -24,5 +25,6 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
     qmlRegisterType<MainHeaderViewModel>(uri, major, minor, "MainHeaderViewModel");
     qmlRegisterType<MainWeatherViewModel>(uri, major, minor, "MainWeatherViewModel");
+    qmlRegisterType<SearchLocationViewModel>(uri, major, minor, "SearchLocationViewModel");
     engine.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider);
 }

@@ -1,0 +1,27 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// A button of white text on blue with rounded corners.
+Button {
+    id: button
+
+    padding: 10
+    leftPadding: 16
+    rightPadding: 16
+
+    contentItem: Text {
+        text: button.text
+        font.pixelSize: Theme.bodySize
+        color: Theme.white
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    background: Rectangle {
+        radius: 8
+        color: Theme.blue
+        opacity: button.down ? 0.7 : 1
+    }
+}

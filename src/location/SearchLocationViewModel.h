@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "location/LocationDetails.h"
+#include "location/LocationManager.h"
+#include "location/MapLocation.h"
+
+#include <QList>
+#include <QObject>
+#include <QSizeF>
+#include <QVariant>
+
+#include <optional>
+
+struct Placemark;
+
+// The map screen: the map follows the device, a search by name pins the place
+// it finds and opens a sheet that tells about it.
+class SearchLocationViewModel : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString searchQuery READ searchQuery WRITE setSearchQuery NOTIFY searchQueryChanged)
+    // A LocationDetails, or null until a search finds a place.
+    Q_PROPERTY(QVariant locationDetails READ locationDetailsValue NOTIFY locationDetailsChanged)
+    Q_PROPERTY(bool isBottomSheetVisible READ isBottomSheetVisible WRITE setBottomSheetVisible NOTIFY isBottomSheetVisibleChanged)
+    // A coordinate, or null until a search finds a place.
+    Q_PROPERTY(QVariant searchedLocationCoordinate READ searchedLocationCoordinateValue NOTIFY searchedLocationCoordinateChanged)
+    Q_PROPERTY(LocationManager *locationManager READ locationManager CONSTANT)
+    Q_PROPERTY(bool isSearchFieldFocused READ isSearchFieldFocused WRITE setSearchFieldFocused NOTIFY isSearchFieldFocusedChanged)
+    // MapLocation values.
+    Q_PROPERTY(QVariantList pins READ pinValues NOTIFY searchedLocationCoordinateChanged)
+    // The sheet is up when it is asked for and has a place to tell about.
+    Q_PROPERTY(bool showsBottomSheet READ showsBottomSheet NOTIFY showsBottomSheetChanged)
+    // Where the map's tiles come from (TARNELO_TILES); empty for the map library's own choice.
+    Q_PROPERTY(QString tileServer READ tileServer CONSTANT)
+
+public:
+    explicit SearchLocationViewModel(QObject *parent = nullptr);
+
+    QString searchQuery() const { return m_searchQuery; }
+    void setSearchQuery(const QString &query);
+    std::optional<LocationDetails> locationDetails() const { return m_locationDetails; }
+    bool isBottomSheetVisible() const { return m_isBottomSheetVisible; }
+    void setBottomSheetVisible(bool visible);
+    std::optional<QGeoCoordinate> searchedLocationCoordinate() const { return m_searchedLocationCoordinate; }
+    LocationManager *locationManager() const { return m_locationManager; }
+    bool isSearchFieldFocused() const { return m_isSearchFieldFocused; }
+    void setSearchFieldFocused(bool focused);
+    // The searched place's pin, if a search found one.
+    QList<MapLocation> mapLocations() const;
+    bool showsBottomSheet() const { return m_isBottomSheetVisible && m_locationDetails; }
+    QString tileServer() const { return m_tileServer; }
+
+    // Looks the query up as typed, unless there is none.
+    Q_INVOKABLE void search();
+    // The zoom level at which a map of the viewport's size shows the region.
+    Q_INVOKABLE double zoomLevel(const CoordinateRegion &region, const QSizeF &viewport) const;
+
+    // Where a search's answer lands: the first place found, if it says where
+    // it is, is pinned, centred on and shown in the sheet; anything else
+    // changes nothing.
+    void showFirstPlace(const QList<Placemark> &placemarks, const QString &error);
+
+Q_SIGNALS:
+    void searchQueryChanged();
+    void locationDetailsChanged();
+    void isBottomSheetVisibleChanged();
+    void searchedLocationCoordinateChanged();
+    void isSearchFieldFocusedChanged();
+    void showsBottomSheetChanged();
+    // A search went to the geocoder with this text.
+    void geocodingStarted(const QString &query);
+
+private:
+    QVariant locationDetailsValue() const;
+    QVariant searchedLocationCoordinateValue() const;
+    QVariantList pinValues() const;
+
+    QString m_searchQuery;
+    std::optional<LocationDetails> m_locationDetails;
+    bool m_isBottomSheetVisible = false;
+    std::optional<QGeoCoordinate> m_searchedLocationCoordinate;
+    LocationManager *m_locationManager;
+    bool m_isSearchFieldFocused = false;
+    QString m_tileServer;
+};

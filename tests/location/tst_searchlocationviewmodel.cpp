@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "location/Placemark.h"
+#include "location/SearchLocationViewModel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+Q_DECLARE_METATYPE(Placemark)
+
+namespace
+{
+const QGeoCoordinate nairobi(-1.2864, 36.8172);
+const QGeoCoordinate mombasa(-4.0547, 39.6636);
+
+Placemark place(const QString &name, const QGeoCoordinate &where)
+{
+    Placemark placemark;
+    placemark.name = name;
+    placemark.locality = name;
+    placemark.country = QStringLiteral("Kenya");
+    placemark.location = where;
+    return placemark;
+}
+
+// Which of the screen's properties changed, in order.
+class ChangeLog
+{
+public:
+    explicit ChangeLog(SearchLocationViewModel &model)
+    {
+        const auto record = [this](const char *name) { return [this, name] { m_changes.append(QString::fromLatin1(name)); }; };
+        QObject::connect(&model, &SearchLocationViewModel::locationDetailsChanged, &m_context, record("locationDetails"));
+        QObject::connect(&model, &SearchLocationViewModel::searchedLocationCoordinateChanged, &m_context, record("searchedLocationCoordinate"));
+        QObject::connect(&model, &SearchLocationViewModel::isBottomSheetVisibleChanged, &m_context, record("isBottomSheetVisible"));
+        QObject::connect(&model, &SearchLocationViewModel::isSearchFieldFocusedChanged, &m_context, record("isSearchFieldFocused"));
+        QObject::connect(model.locationManager(), &LocationManager::regionChanged, &m_context, record("region"));
+    }
+
+    QStringList changes() const { return m_changes; }
+
+private:
+    QObject m_context;
+    QStringList m_changes;
+};
+} // namespace
+
+class SearchLocationViewModelTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        // No device: only the searches move the map, except where a test says otherwise.
+        qputenv("TARNELO_POSITION", "none");
+        qunsetenv("TARNELO_TILES");
+    }
+
+    void detailsNameThePlaceAndJoinItsKnownAddressParts_data()
+    {
+        QTest::addColumn<Placemark>("placemark");
+        QTest::addColumn<QString>("name");
+        QTest::addColumn<QString>("address");
+
+        Placemark full;
+        full.name = QStringLiteral("City Hall");
+        full.thoroughfare = QStringLiteral("City Hall Way");
+        full.locality = QStringLiteral("Nairobi");
+        full.administrativeArea = QStringLiteral("Nairobi Area");
+        full.postalCode = QStringLiteral("00100");
+        full.country = QStringLiteral("Kenya");
+        full.location = nairobi;
+        QTest::newRow("every part") << full << QStringLiteral("City Hall") << QStringLiteral("City Hall Way, Nairobi, Nairobi Area, 00100, Kenya");
+
+        Placemark gaps = full;
+        gaps.thoroughfare.reset();
+        gaps.postalCode.reset();
+        QTest::newRow("gaps are skipped") << gaps << QStringLiteral("City Hall") << QStringLiteral("Nairobi, Nairobi Area, Kenya");
+        Placemark blank = full;
+        blank.administrativeArea = QString();
+        QTest::newRow("a blank part is skipped") << blank << QStringLiteral("City Hall") << QStringLiteral("City Hall Way, Nairobi, 00100, Kenya");
+
+        Placemark countryOnly;
+        countryOnly.country = QStringLiteral("Kenya");
+        countryOnly.location = nairobi;
+        QTest::newRow("only a country, no name") << countryOnly << QStringLiteral("Unknown") << QStringLiteral("Kenya");
+        countryOnly.country.reset();
+        QTest::newRow("nothing but the location") << countryOnly << QStringLiteral("Unknown") << QString();
+    }
+
+    void detailsNameThePlaceAndJoinItsKnownAddressParts()
+    {
+        QFETCH(Placemark, placemark);
+        QFETCH(QString, name);
+        QFETCH(QString, address);
+        const std::optional<LocationDetails> details = LocationDetails::fromPlacemark(placemark);
+        QVERIFY(details);
+        QCOMPARE(details->name, name);
+        QCOMPARE(details->address, address);
+        QCOMPARE(details->latitude, nairobi.latitude());
+        QCOMPARE(details->longitude, nairobi.longitude());
+    }
+
+    void onlyATypedQueryIsGeocoded()
+    {
+        SearchLocationViewModel model;
+        QSignalSpy started(&model, &SearchLocationViewModel::geocodingStarted);
+        model.search();
+        QCOMPARE(started.count(), 0);
+
+        model.setSearchQuery(QStringLiteral("   "));
+        model.search();
+        QCOMPARE(started.count(), 1);
+        QCOMPARE(started.at(0).at(0).toString(), QStringLiteral("   "));
+    }
+
+    void aFoundPlaceIsCentredPinnedAndShown()
+    {
+        SearchLocationViewModel model;
+        const CoordinateRegion before = model.locationManager()->region();
+        QVERIFY(model.mapLocations().isEmpty());
+        model.setSearchFieldFocused(true);
+        ChangeLog log(model);
+
+        model.showFirstPlace({ place(QStringLiteral("Nairobi"), nairobi), place(QStringLiteral("Mombasa"), mombasa) }, QString());
+
+        const CoordinateRegion region = model.locationManager()->region();
+        QCOMPARE(region.center, nairobi);
+        QCOMPARE(region.latitudeDelta, before.latitudeDelta);
+        QCOMPARE(region.longitudeDelta, before.longitudeDelta);
+        QCOMPARE(model.searchedLocationCoordinate(), nairobi);
+        QCOMPARE(model.locationDetails()->name, QStringLiteral("Nairobi"));
+        QCOMPARE(model.locationDetails()->address, QStringLiteral("Nairobi, Kenya"));
+        QVERIFY(model.isBottomSheetVisible());
+        QVERIFY(model.showsBottomSheet());
+        QVERIFY(!model.isSearchFieldFocused());
+        // The keyboard goes only once the sheet is on its way.
+        const QStringList changes = log.changes();
+        QVERIFY(changes.indexOf(QStringLiteral("isBottomSheetVisible")) < changes.indexOf(QStringLiteral("isSearchFieldFocused")));
+        QVERIFY(changes.indexOf(QStringLiteral("locationDetails")) < changes.indexOf(QStringLiteral("isBottomSheetVisible")));
+
+        const QList<MapLocation> pins = model.mapLocations();
+        QCOMPARE(pins.size(), 1);
+        QCOMPARE(pins.first().coordinate, nairobi);
+        QVERIFY(!pins.first().id.isNull());
+        QVERIFY(model.mapLocations().first().id != pins.first().id);
+    }
+
+    void aLaterSearchReplacesThePlaceAndClosingKeepsThePin()
+    {
+        SearchLocationViewModel model;
+        model.showFirstPlace({ place(QStringLiteral("Nairobi"), nairobi) }, QString());
+        model.showFirstPlace({ place(QStringLiteral("Mombasa"), mombasa) }, QString());
+        QCOMPARE(model.locationDetails()->name, QStringLiteral("Mombasa"));
+        QCOMPARE(model.mapLocations().size(), 1);
+        QCOMPARE(model.mapLocations().first().coordinate, mombasa);
+        QCOMPARE(model.locationManager()->region().center, mombasa);
+        QVERIFY(model.showsBottomSheet());
+
+        QSignalSpy shown(&model, &SearchLocationViewModel::showsBottomSheetChanged);
+        model.setProperty("isBottomSheetVisible", false);
+        QVERIFY(!model.showsBottomSheet());
+        QCOMPARE(shown.count(), 1);
+        QCOMPARE(model.mapLocations().size(), 1);
+        QCOMPARE(model.searchedLocationCoordinate(), mombasa);
+        QCOMPARE(model.locationDetails()->name, QStringLiteral("Mombasa"));
+    }
+
+    void anUnusableAnswerChangesNothing_data()
+    {
+        QTest::addColumn<QList<Placemark>>("placemarks");
+        QTest::addColumn<QString>("error");
+
+        Placemark nowhere = place(QStringLiteral("Atlantis"), nairobi);
+        nowhere.location.reset();
+        QTest::newRow("error") << QList<Placemark> { place(QStringLiteral("Nairobi"), nairobi) } << QStringLiteral("The lookup failed.");
+        QTest::newRow("no place") << QList<Placemark>() << QString();
+        QTest::newRow("first place without a location") << QList<Placemark> { nowhere, place(QStringLiteral("Nairobi"), nairobi) } << QString();
+    }
+
+    void anUnusableAnswerChangesNothing()
+    {
+        QFETCH(QList<Placemark>, placemarks);
+        QFETCH(QString, error);
+        SearchLocationViewModel model;
+        model.showFirstPlace({ place(QStringLiteral("Mombasa"), mombasa) }, QString());
+        model.setBottomSheetVisible(false);
+        model.setSearchFieldFocused(true);
+        ChangeLog log(model);
+
+        model.showFirstPlace(placemarks, error);
+
+        QCOMPARE(log.changes(), QStringList());
+        QCOMPARE(model.locationManager()->region().center, mombasa);
+        QCOMPARE(model.locationDetails()->name, QStringLiteral("Mombasa"));
+        QVERIFY(!model.isBottomSheetVisible());
+        QVERIFY(model.isSearchFieldFocused());
+    }
+
+    void theMapFollowsWhicheverCameLast()
+    {
+        qputenv("TARNELO_POSITION", "fixed:-4.0547,39.6636");
+        SearchLocationViewModel model;
+        qputenv("TARNELO_POSITION", "none");
+        // The search lands before the device's fix, which is asked for on creation.
+        model.showFirstPlace({ place(QStringLiteral("Nairobi"), nairobi) }, QString());
+        QCOMPARE(model.locationManager()->region().center, nairobi);
+        QTRY_COMPARE(model.locationManager()->userLocation(), mombasa);
+        QCOMPARE(model.locationManager()->region().center, mombasa);
+        QCOMPARE(model.searchedLocationCoordinate(), nairobi);
+
+        model.showFirstPlace({ place(QStringLiteral("Nairobi"), nairobi) }, QString());
+        QCOMPARE(model.locationManager()->region().center, nairobi);
+    }
+};
+
+QTEST_GUILESS_MAIN(SearchLocationViewModelTest)
+#include "tst_searchlocationviewmodel.moc"
