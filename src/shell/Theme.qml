@@ -15,6 +15,13 @@ QtObject {
     readonly property color white: "#FFFFFF"
     readonly property color black: "#000000"
 
+    // the app's own named colours, beside the system ones above: table text,
+    // the pollutant cards, and the scale's two darkest categories
+    readonly property color kOthers: "#3A3A3C"
+    readonly property color kPrimary: "#2F5D8A"
+    readonly property color assetPurple: "#8F3F97"
+    readonly property color maroon: "#7E0023"
+
     // surfaces and text
     readonly property color background: "#F2F2F7"
     readonly property color surface: white
