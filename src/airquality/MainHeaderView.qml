@@ -2,8 +2,8 @@
 import QtQuick 2.15
 import Tarnelo 1.0
 
-// The air-quality index at the user's position, where and when, and the eight
-// pollutant readings.
+// How clean the air is at the user's position: the status of its index on the
+// status colour, where and when, and the eight pollutant readings.
 Rectangle {
     id: header
 
@@ -19,26 +19,82 @@ Rectangle {
         anchors.margins: 16
         spacing: 12
 
-        Text {
-            objectName: "aqiValue"
-            text: "AQI " + header.model.txt_aqi
-            font.pixelSize: Theme.titleSize
-            font.bold: true
-            color: Theme.white
+        Rectangle {
+            objectName: "statusBadge"
+            width: parent.width
+            height: Math.max(valueColumn.implicitHeight, statusText.implicitHeight) + 28
+            radius: 14
+            color: header.model.statusColor
+
+            Behavior on color { ColorAnimation { duration: Theme.defaultAnimationDuration } }
+
+            Column {
+                id: valueColumn
+                anchors.left: parent.left
+                anchors.leftMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+
+                Text {
+                    text: "AQI"
+                    font.pixelSize: Theme.captionSize
+                    font.bold: true
+                    font.letterSpacing: 1
+                    color: header.model.statusTextColor
+                    opacity: 0.8
+                }
+                Text {
+                    objectName: "aqiValue"
+                    text: header.model.aqiValue
+                    font.pixelSize: 44
+                    font.bold: true
+                    color: header.model.statusTextColor
+                }
+            }
+
+            Text {
+                id: statusText
+                objectName: "aqiStatus"
+                anchors.left: valueColumn.right
+                anchors.leftMargin: 16
+                anchors.right: parent.right
+                anchors.rightMargin: 16
+                anchors.verticalCenter: parent.verticalCenter
+                text: header.model.txt_status
+                horizontalAlignment: Text.AlignRight
+                wrapMode: Text.WordWrap
+                font.pixelSize: Theme.headlineSize + 3
+                font.bold: true
+                color: header.model.statusTextColor
+            }
         }
 
         Row {
+            width: parent.width
             spacing: 6
+
             SymbolIcon {
+                id: locationIcon
+                anchors.verticalCenter: parent.verticalCenter
                 name: "location.fill"
                 color: Theme.white
                 size: 16
             }
             Text {
-                objectName: "townDate"
-                text: (header.model.locationManager.townName || "Loading..") + " " + new Date().toLocaleDateString(Qt.locale(), Locale.LongFormat)
+                objectName: "townName"
+                width: Math.min(implicitWidth, parent.width - locationIcon.width - dateText.width - 2 * parent.spacing)
+                elide: Text.ElideRight
+                text: header.model.locationManager.townName || "Loading.."
+                font.pixelSize: Theme.captionSize + 2
+                font.bold: true
+                color: Theme.white
+            }
+            Text {
+                id: dateText
+                objectName: "todayDate"
+                text: new Date().toLocaleDateString(Qt.locale(), Locale.LongFormat)
                 font.pixelSize: Theme.captionSize + 2
                 color: Theme.white
+                opacity: 0.85
             }
         }
 

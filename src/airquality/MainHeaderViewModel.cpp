@@ -16,7 +16,9 @@ MainHeaderViewModel::MainHeaderViewModel(LocationManagerFunHD *locationManager, 
 
 void MainHeaderViewModel::requestReadings(const QUrl &url)
 {
-    fetchFirstRecord<AirQualityData>(url, [this](const AirQualityData &reading) { apply(reading); });
+    // An empty list still classifies, on the category received before.
+    fetchFirstRecord<AirQualityData>(
+        url, [this](const AirQualityData &reading) { apply(reading); }, [this] { classify(); });
 }
 
 void MainHeaderViewModel::apply(const AirQualityData &reading)
@@ -31,4 +33,12 @@ void MainHeaderViewModel::apply(const AirQualityData &reading)
     txt_pm10 = reading.pm10;
     txt_nh3 = reading.nh3;
     Q_EMIT readingsChanged();
+}
+
+void MainHeaderViewModel::classify()
+{
+    const AqiStatus before = m_status;
+    AqiClassification::classify(txt_aqi, m_status);
+    if (m_status != before)
+        Q_EMIT statusChanged();
 }

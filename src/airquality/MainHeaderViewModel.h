@@ -1,13 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "airquality/AqiClassification.h"
 #include "airquality/PositionedPanel.h"
 #include "location/GeocodingProvider.h"
 
 struct AirQualityData;
 
 // The dashboard's header: the air-quality index and the eight pollutant
-// readings at the user's position, as the backend reports them.
+// readings at the user's position, as the backend reports them, and the
+// status the index category stands for.
 class MainHeaderViewModel : public PositionedPanel
 {
     Q_OBJECT
@@ -22,19 +24,32 @@ class MainHeaderViewModel : public PositionedPanel
     Q_PROPERTY(QString txt_pm25 MEMBER txt_pm25 NOTIFY readingsChanged)
     Q_PROPERTY(QString txt_pm10 MEMBER txt_pm10 NOTIFY readingsChanged)
     Q_PROPERTY(QString txt_nh3 MEMBER txt_nh3 NOTIFY readingsChanged)
+    Q_PROPERTY(QString txt_status READ txtStatus NOTIFY statusChanged)
+    Q_PROPERTY(QString aqiValue READ aqiValue NOTIFY statusChanged)
+    Q_PROPERTY(QString towndate READ towndate CONSTANT)
+    Q_PROPERTY(QColor statusColor READ statusColor NOTIFY statusChanged)
+    // The colour of text drawn on statusColor.
+    Q_PROPERTY(QColor statusTextColor READ statusTextColor NOTIFY statusChanged)
 
 public:
     explicit MainHeaderViewModel(QObject *parent = nullptr);
 
     LocationManagerFunHD *locationManager() const { return m_locationManager; }
+    QString txtStatus() const { return m_status.txt_status; }
+    QString aqiValue() const { return m_status.aqiValue; }
+    QString towndate() const { return m_towndate; }
+    QColor statusColor() const { return m_status.statusColor; }
+    QColor statusTextColor() const { return AqiClassification::readableTextOn(m_status.statusColor); }
 
 Q_SIGNALS:
     void readingsChanged();
+    void statusChanged();
 
 private:
     MainHeaderViewModel(LocationManagerFunHD *locationManager, QObject *parent);
     void requestReadings(const QUrl &url) override;
     void apply(const AirQualityData &reading);
+    void classify();
 
     LocationManagerFunHD *m_locationManager;
     QString txt_aqi = QStringLiteral("0");
@@ -46,4 +61,6 @@ private:
     QString txt_pm25 = QStringLiteral("0");
     QString txt_pm10 = QStringLiteral("0");
     QString txt_nh3 = QStringLiteral("0");
+    AqiStatus m_status;
+    QString m_towndate = QStringLiteral("Location");
 };

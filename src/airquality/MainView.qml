@@ -15,7 +15,15 @@ Flickable {
         spacing: 16
 
         MainHeaderView {
+            id: header
             width: parent.width
+        }
+        MainCategoryView {
+            width: parent.width
+        }
+        MainIndoorsView {
+            width: parent.width
+            outdoorIndex: header.model.txt_aqi
         }
         MainWeatherView {
             width: parent.width

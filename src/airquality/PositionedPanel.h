@@ -38,11 +38,18 @@ protected:
     // list or a failure keeps what the panel shows.
     template<typename T, typename Apply> void fetchFirstRecord(const QUrl &url, Apply apply)
     {
+        fetchFirstRecord<T>(url, apply, [] {});
+    }
+    // As above, and `settle` runs after every list that decoded, an empty one
+    // too, for what a panel works out from all it has received so far.
+    template<typename T, typename Apply, typename Settle> void fetchFirstRecord(const QUrl &url, Apply apply, Settle settle)
+    {
         fetchRecords<T>(
             url, this,
-            [apply](const QVector<T> &records) {
+            [apply, settle](const QVector<T> &records) {
                 if (!records.isEmpty())
                     apply(records.first());
+                settle();
             },
             [](const QString &) {});
     }

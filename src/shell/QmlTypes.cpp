@@ -1,8 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/QmlTypes.h"
 
+#include "airquality/HealthTipsModel.h"
+#include "airquality/MainCategoryViewModel.h"
 #include "airquality/MainHeaderViewModel.h"
+#include "airquality/MainIndoorsViewModel.h"
 #include "airquality/MainWeatherViewModel.h"
+#include "airquality/PollutantCardModel.h"
+#include "airquality/TipsViewModel.h"
 #include "location/SearchLocationViewModel.h"
 #include "shell/HomeViewModel.h"
 #include "shell/RootController.h"
@@ -23,8 +28,13 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/qml/Theme.qml")), uri, major, minor, "Theme");
     qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
+    qmlRegisterType<HealthTipsModel>(uri, major, minor, "HealthTipsModel");
+    qmlRegisterType<MainCategoryViewModel>(uri, major, minor, "MainCategoryViewModel");
     qmlRegisterType<MainHeaderViewModel>(uri, major, minor, "MainHeaderViewModel");
+    qmlRegisterType<MainIndoorsViewModel>(uri, major, minor, "MainIndoorsViewModel");
     qmlRegisterType<MainWeatherViewModel>(uri, major, minor, "MainWeatherViewModel");
+    qmlRegisterType<PollutantCardModel>(uri, major, minor, "PollutantCardModel");
     qmlRegisterType<SearchLocationViewModel>(uri, major, minor, "SearchLocationViewModel");
+    qmlRegisterType<TipsViewModel>(uri, major, minor, "TipsViewModel");
     engine.addImageProvider(QStringLiteral("symbol"), new SymbolImageProvider);
 }

@@ -4,6 +4,7 @@
 #include "airquality/MainWeatherViewModel.h"
 #include "common/StdoutCapture.h"
 
+#include <QColor>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -30,21 +31,36 @@ private Q_SLOTS:
     void headerShowsTheFirstReadingAndKeepsItOnEmptyOrBadAnswers()
     {
         MainHeaderViewModel header;
+        QCOMPARE(text(header, "txt_status"), QStringLiteral("AQI Status"));
+        QCOMPARE(text(header, "aqiValue"), QStringLiteral("0"));
+        QCOMPARE(header.property("statusColor").value<QColor>(), QColor(Qt::white));
+        QCOMPARE(text(header, "towndate"), QStringLiteral("Location"));
+
         QSignalSpy changed(&header, &MainHeaderViewModel::readingsChanged);
+        QSignalSpy statusChanged(&header, &MainHeaderViewModel::statusChanged);
         m_responder.answer("/tarnelo/v1/airquality.php", 200, reading);
         header.showPosition(-33.8688, 151.2093);
         QCOMPARE(text(header, "searchlat"), QStringLiteral("-33.8688"));
-        QVERIFY(changed.wait());
+        QVERIFY(statusChanged.wait());
         QCOMPARE(m_responder.takeTargets(), QStringList { QStringLiteral("/tarnelo/v1/airquality.php?lat=-33.8688&lon=151.2093") });
+        QCOMPARE(changed.count(), 1);
         QCOMPARE(text(header, "txt_aqi"), QStringLiteral("3"));
         QCOMPARE(text(header, "txt_pm25"), QStringLiteral("38.2"));
         QCOMPARE(text(header, "txt_nh3"), QStringLiteral("1.5"));
+        QCOMPARE(text(header, "txt_status"), QStringLiteral("Unhealthy for sensitive groups"));
+        QCOMPARE(text(header, "aqiValue"), QStringLiteral("200"));
+        QCOMPARE(header.property("statusTextColor").value<QColor>(), QColor(Qt::white));
 
+        // An empty answer classifies again whatever category is held by then.
+        header.setProperty("txt_aqi", QStringLiteral("6"));
         m_responder.answer("/tarnelo/v1/airquality.php", 200, "[]");
         header.showPosition(1, 2);
-        QStringList targets;
-        QTRY_VERIFY(!(targets += m_responder.takeTargets()).isEmpty());
-        QTest::qWait(50);
+        QVERIFY(statusChanged.wait());
+        QCOMPARE(text(header, "txt_status"), QStringLiteral("Hazardous"));
+        QCOMPARE(text(header, "aqiValue"), QStringLiteral("500"));
+        QCOMPARE(header.property("statusColor").value<QColor>(), QColor(0xAF52DE));
+        QCOMPARE(text(header, "txt_co"), QStringLiteral("230.5"));
+
         m_responder.answer("/tarnelo/v1/airquality.php", 200, R"([{"id":"1","aqi":4}])");
         QStringList lines;
         {
@@ -53,7 +69,10 @@ private Q_SLOTS:
             (void)QTest::qWaitFor([&] { return !(lines += capture.takeLines()).isEmpty(); }, 5000);
         }
         QCOMPARE(lines.value(0).left(23), QStringLiteral("Failed to decode data: "));
-        QCOMPARE(changed.count(), 1);
+        QCOMPARE(changed.count(), 2);
+        QCOMPARE(statusChanged.count(), 2);
+        QCOMPARE(text(header, "txt_aqi"), QStringLiteral("6"));
+        QCOMPARE(text(header, "txt_status"), QStringLiteral("Hazardous"));
         QCOMPARE(text(header, "txt_co"), QStringLiteral("230.5"));
     }
 

@@ -1,0 +1,95 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "airquality/AqiClassification.h"
+#include "airquality/MainIndoorsViewModel.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+char *toString(const AqiStatus &shown)
+{
+    return QTest::toString(QStringList { shown.txt_status, shown.statusColor.name(), shown.aqiValue }.join(QLatin1Char('/')));
+}
+
+namespace
+{
+AqiStatus classified(const QString &category, AqiStatus shown = {})
+{
+    AqiClassification::classify(category, shown);
+    return shown;
+}
+
+AqiStatus status(const char *text, QRgb color, const char *value)
+{
+    return { QString::fromLatin1(text), QColor(color), QString::fromLatin1(value) };
+}
+} // namespace
+
+class AqiCategoriesTest : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void categoriesNameColourAndValue()
+    {
+        QCOMPARE(classified(QStringLiteral("1")), status("Good", 0x34C759, "50"));
+        QCOMPARE(classified(QStringLiteral("3")), status("Unhealthy for sensitive groups", 0xFF9500, "200"));
+        QCOMPARE(classified(QStringLiteral("4")), status("Unhealthy", 0xFF3B30, "300"));
+        QCOMPARE(classified(QStringLiteral("5")), status("Very unhealthy", 0xAF52DE, "400"));
+        QCOMPARE(classified(QStringLiteral("6")), status("Hazardous", 0xAF52DE, "500"));
+    }
+
+    void otherTextKeepsWhatWasShown_data()
+    {
+        QTest::addColumn<QString>("category");
+        QTest::newRow("zero") << QStringLiteral("0");
+        QTest::newRow("past the scale") << QStringLiteral("7");
+        QTest::newRow("empty") << QString();
+        QTest::newRow("leading blank") << QStringLiteral(" 1");
+        QTest::newRow("a number, not its text") << QStringLiteral("2.0");
+    }
+    void otherTextKeepsWhatWasShown()
+    {
+        QFETCH(QString, category);
+        QCOMPARE(classified(category), AqiStatus {});
+        QCOMPARE(classified(category).statusColor, QColor(Qt::white));
+        const AqiStatus moderate = classified(QStringLiteral("2"));
+        QCOMPARE(moderate, status("Moderate", 0xFFCC00, "100"));
+        QCOMPARE(classified(category, moderate), moderate);
+    }
+
+    void statusTextStaysReadable()
+    {
+        QCOMPARE(AqiClassification::readableTextOn(Qt::white), QColor(Qt::black));
+        QCOMPARE(AqiClassification::readableTextOn(QColor(0xFFCC00)), QColor(Qt::black));
+        for (const QRgb deep : { 0x34C759, 0xFF9500, 0xFF3B30, 0xAF52DE })
+            QCOMPARE(AqiClassification::readableTextOn(QColor(deep)), QColor(Qt::white));
+    }
+
+    void indoorAdviceFollowsTheOutdoorCategory()
+    {
+        const QString opening = MainIndoorsViewModel::adviceFor(QStringLiteral("1"));
+        QCOMPARE(opening, QStringLiteral("Open windows to air your rooms"));
+        QCOMPARE(MainIndoorsViewModel::adviceFor(QStringLiteral("2")), opening);
+        QCOMPARE(MainIndoorsViewModel::adviceFor(QStringLiteral("3")), QStringLiteral("Keep windows closed at busy hours; run a purifier if you have one"));
+        QStringList stronger;
+        for (const char *category : { "4", "5", "6" })
+            stronger += MainIndoorsViewModel::adviceFor(QString::fromLatin1(category));
+        QCOMPARE(stronger.removeDuplicates(), 0);
+        QVERIFY(!stronger.contains(opening));
+
+        const QString neutral = MainIndoorsViewModel::adviceFor(QStringLiteral("0"));
+        for (const char *other : { "7", "", " 4", "four" })
+            QCOMPARE(MainIndoorsViewModel::adviceFor(QString::fromLatin1(other)), neutral);
+        QVERIFY(!stronger.contains(neutral) && neutral != opening);
+
+        MainIndoorsViewModel model;
+        QSignalSpy changed(&model, &MainIndoorsViewModel::outdoorIndexChanged);
+        model.setProperty("outdoorIndex", QStringLiteral("5"));
+        QCOMPARE(model.property("advice").toString(), stronger[1]);
+        model.setOutdoorIndex(QStringLiteral("5"));
+        QCOMPARE(changed.count(), 1);
+    }
+};
+
+QTEST_GUILESS_MAIN(AqiCategoriesTest)
+#include "tst_aqicategories.moc"
