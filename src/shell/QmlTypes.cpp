@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "shell/QmlTypes.h"
 
+#include "account/AccountScreenModel.h"
+#include "account/LoginViewModel.h"
+#include "account/RegisterViewModel.h"
+#include "account/ResetPasswordViewModel.h"
 #include "airquality/HealthTipsModel.h"
 #include "airquality/MainCategoryViewModel.h"
 #include "airquality/MainHeaderViewModel.h"
@@ -27,6 +31,10 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
 {
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/qml/Theme.qml")), uri, major, minor, "Theme");
     qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
+    qmlRegisterUncreatableType<AccountScreenModel>(uri, major, minor, "AccountScreenModel", QStringLiteral("Each account screen has its own model"));
+    qmlRegisterType<LoginViewModel>(uri, major, minor, "LoginViewModel");
+    qmlRegisterType<RegisterViewModel>(uri, major, minor, "RegisterViewModel");
+    qmlRegisterType<ResetPasswordViewModel>(uri, major, minor, "ResetPasswordViewModel");
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
     qmlRegisterType<HealthTipsModel>(uri, major, minor, "HealthTipsModel");
     qmlRegisterType<MainCategoryViewModel>(uri, major, minor, "MainCategoryViewModel");

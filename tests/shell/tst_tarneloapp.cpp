@@ -51,7 +51,7 @@ private Q_SLOTS:
         const QPointer<QQuickItem> firstHome = windowContent();
         m_rootController.showLogin();
         QTRY_VERIFY(!firstHome);
-        QCOMPARE(windowContent()->property("title").toString(), QStringLiteral("LoginView"));
+        QCOMPARE(windowContent()->objectName(), QStringLiteral("LoginView"));
 
         m_rootController.showHome();
         const QPointer<QQuickItem> secondHome = windowContent();

@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// The gender choice as a sheet rising from the bottom: one row per option,
+// the chosen one ticked, and "Close".
+Drawer {
+    id: sheet
+
+    property RegisterViewModel viewModel
+
+    edge: Qt.BottomEdge
+    width: parent ? parent.width : 0
+    height: implicitContentHeight + topPadding + bottomPadding
+    interactive: false
+    padding: 0
+    topPadding: 18
+    bottomPadding: 24
+    visible: sheet.viewModel.isPickerPresented
+    onClosed: sheet.viewModel.isPickerPresented = false
+    Overlay.modal: Rectangle { color: Theme.scrim }
+
+    background: Rectangle {
+        radius: 16
+        color: Theme.surface
+
+        // Square off the bottom corners: the sheet sits on the window's edge.
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: parent.radius
+            color: parent.color
+        }
+    }
+
+    contentItem: Column {
+        spacing: 4
+
+        Text {
+            width: parent.width
+            bottomPadding: 8
+            horizontalAlignment: Text.AlignHCenter
+            text: "Gender"
+            font.pixelSize: Theme.headlineSize
+            font.weight: Font.DemiBold
+            color: Theme.label
+        }
+
+        Repeater {
+            model: sheet.viewModel.options
+
+            ItemDelegate {
+                required property string modelData
+                objectName: "option_" + modelData
+                width: parent.width
+                height: 48
+                leftPadding: 24
+                rightPadding: 24
+                onClicked: sheet.viewModel.chooseOption(modelData)
+
+                contentItem: Text {
+                    text: modelData
+                    verticalAlignment: Text.AlignVCenter
+                    font.pixelSize: Theme.bodySize
+                    font.weight: modelData === sheet.viewModel.selectedOption ? Font.DemiBold : Font.Normal
+                    color: modelData === sheet.viewModel.selectedOption ? Theme.blue : Theme.label
+                }
+            }
+        }
+
+        FilledButton {
+            objectName: "closePicker"
+            x: 24
+            width: parent.width - 48
+            text: "Close"
+            onClicked: sheet.viewModel.isPickerPresented = false
+        }
+    }
+}

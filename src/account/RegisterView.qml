@@ -1,0 +1,121 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// Creating an account: who the user is, then the backend's answer in the alert.
+AccountPage {
+    id: screen
+
+    readonly property RegisterViewModel viewModel: RegisterViewModel {}
+
+    signal loginRequested()
+
+    model: viewModel
+    heading: "Hello! Register to get started"
+    title: "Register Account"
+
+    AccountField {
+        objectName: "fullNameField"
+        placeholderText: "Full Name"
+        text: screen.viewModel.fullName
+        onTextEdited: screen.viewModel.fullName = text
+    }
+
+    EmailField {
+        placeholderText: "Email Address"
+        text: screen.viewModel.emailAddress
+        onTextEdited: screen.viewModel.emailAddress = text
+    }
+
+    Column {
+        width: parent.width
+        spacing: 6
+
+        Text {
+            leftPadding: 4
+            text: "Date of Birth"
+            font.pixelSize: 15
+            color: Theme.secondaryLabel
+        }
+
+        Rectangle {
+            width: parent.width
+            height: birthDate.height
+            radius: 10
+            color: Theme.surface
+            border.color: Theme.separator
+
+            DateOfBirthPicker {
+                id: birthDate
+                objectName: "dateOfBirth"
+                x: 8
+                width: parent.width - 16
+                day: screen.viewModel.birthDay
+                month: screen.viewModel.birthMonth
+                year: screen.viewModel.birthYear
+                onPicked: (year, month, day) => screen.viewModel.setDateOfBirth(year, month, day)
+            }
+        }
+    }
+
+    LabelledBox {
+        label: "Gender"
+
+        AbstractButton {
+            objectName: "genderButton"
+            anchors.fill: parent
+            onClicked: screen.viewModel.isPickerPresented = true
+
+            contentItem: Row {
+                layoutDirection: Qt.RightToLeft
+                spacing: 6
+
+                Text {
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: "›"
+                    font.pixelSize: 22
+                    color: Theme.gray
+                }
+                Text {
+                    objectName: "selectedGender"
+                    anchors.verticalCenter: parent.verticalCenter
+                    text: screen.viewModel.selectedOption
+                    font.pixelSize: Theme.bodySize
+                    color: Theme.blue
+                }
+            }
+        }
+    }
+
+    AccountField {
+        objectName: "referralField"
+        placeholderText: "Referral Code"
+        text: screen.viewModel.referralcode
+        onTextEdited: screen.viewModel.referralcode = text
+    }
+
+    PasswordField {
+        placeholderText: "Password"
+        onTextEdited: screen.viewModel.passwordtxt = text
+        onAccepted: screen.viewModel.registerAccount()
+    }
+
+    PrimaryButton {
+        objectName: "registerButton"
+        text: "Register"
+        onClicked: screen.viewModel.registerAccount()
+    }
+
+    PromptRow {
+        prompt: "Already have an account?"
+        linkText: "Login Now"
+        linkName: "loginNowLink"
+        onLinkTapped: screen.loginRequested()
+    }
+
+    PickerSingupView {
+        objectName: "genderPicker"
+        viewModel: screen.viewModel
+    }
+}

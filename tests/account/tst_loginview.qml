@@ -1,0 +1,105 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtTest 1.15
+
+// The account screens as a person uses them: from the login form to
+// registration and the password reset and back, with no backend involved.
+Item {
+    id: window
+    width: 390
+    height: 750
+
+    property var view
+
+    TestCase {
+        name: "LoginView"
+        when: windowShown
+
+        function find(name) {
+            return findChild(window.view, name);
+        }
+
+        function shownScreen() {
+            return find("accountStack").currentItem;
+        }
+
+        function waitForStack(depth) {
+            const stack = find("accountStack");
+            tryVerify(() => stack.depth === depth && !stack.busy, 2000);
+        }
+
+        function init() {
+            warnings.restart();
+            window.view = Qt.createComponent("qrc:/qml/LoginView.qml").createObject(window, { width: 390, height: 750 });
+            verify(window.view, "the login screen builds");
+        }
+
+        function cleanup() {
+            window.view.destroy();
+            wait(0);
+            compare(warnings.count(), 0, "nothing printed a warning");
+        }
+
+        function test_emptyLoginIsRefusedInTheAlert() {
+            const form = shownScreen();
+            compare(findChild(form, "emailField").placeholderText, "Enter Username; name@example.com");
+            verify(screenshots.save(window.view, "login.png"));
+
+            mouseClick(findChild(form, "loginButton"));
+            const alert = findChild(form, "alert");
+            tryVerify(() => alert.opened, 2000);
+            compare(alert.message, "Email address not added");
+            verify(!findChild(form, "progress").visible);
+            mouseClick(findChild(alert.contentItem, "alertOk"));
+            verify(!form.viewModel.showingAlert);
+            tryVerify(() => !alert.visible, 2000);
+        }
+
+        function test_registerAndBack() {
+            mouseClick(find("registerNowLink"));
+            waitForStack(2);
+            const register = shownScreen();
+            compare(findChild(register, "pageTitle").text, "Register Account");
+            const today = new Date();
+            compare(findChild(register, "dayWheel").currentIndex, today.getDate() - 1, "the picker shows the model's date");
+            compare(findChild(register, "yearWheel").currentIndex, today.getFullYear() - 1900);
+            verify(screenshots.save(window.view, "register.png"));
+
+            mouseClick(findChild(register, "genderButton"));
+            verify(register.viewModel.isPickerPresented);
+            const picker = findChild(register, "genderPicker");
+            tryVerify(() => picker.position === 1 && picker.y + picker.height === window.height, 2000, "the sheet sits on the bottom edge");
+            const female = findChild(picker.contentItem, "option_Female");
+            verify(screenshots.save(window.view, "register-gender.png"));
+            mouseClick(female);
+            compare(register.viewModel.selectedOption, "Female");
+            verify(!register.viewModel.isPickerPresented);
+            tryVerify(() => !picker.visible, 2000);
+            compare(findChild(register, "selectedGender").text, "Female");
+
+            // The link is under the fold of a phone's screen.
+            const scroller = findChild(register, "scroller");
+            scroller.contentY = scroller.contentHeight - scroller.height;
+            mouseClick(findChild(register, "loginNowLink"));
+            waitForStack(1);
+            compare(findChild(shownScreen(), "pageTitle").text, "LOGIN");
+        }
+
+        function test_resetAndBack() {
+            mouseClick(find("forgetPasswordLink"));
+            waitForStack(2);
+            const reset = shownScreen();
+            compare(findChild(reset, "pageTitle").text, "RESET PASSWORD");
+            verify(screenshots.save(window.view, "reset.png"));
+
+            mouseClick(findChild(reset, "resetButton"));
+            tryVerify(() => reset.viewModel.showingAlert, 2000);
+            compare(reset.viewModel.alertMessage, "Email address not added");
+            reset.viewModel.alertAccepted();
+
+            mouseClick(findChild(reset, "backToLoginLink"));
+            waitForStack(1);
+            compare(findChild(shownScreen(), "pageTitle").text, "LOGIN");
+        }
+    }
+}
