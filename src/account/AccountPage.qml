@@ -12,6 +12,8 @@ Rectangle {
     property AccountScreenModel model
     property alias heading: headingText.text
     property alias title: titleText.text
+    // A screen opened over another one in a StackView may offer a way back.
+    property bool showsBack: false
     default property alias fields: fieldColumn.data
 
     color: Theme.background
@@ -29,6 +31,14 @@ Rectangle {
             y: 28
             width: page.width - 2 * x
             spacing: 6
+
+            LinkButton {
+                objectName: "backButton"
+                visible: page.showsBack && page.StackView.view !== null
+                leftPadding: 0
+                text: "‹ Back"
+                onClicked: page.StackView.view.pop()
+            }
 
             Text {
                 id: headingText

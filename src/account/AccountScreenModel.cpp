@@ -45,6 +45,18 @@ void AccountScreenModel::alertAccepted()
     alertDismissed();
 }
 
+bool AccountScreenModel::requestAccepted() const
+{
+    return !m_responseCode.isEmpty() && m_responseCode != QLatin1String("0");
+}
+
+std::optional<QString> AccountScreenModel::decodedAnswerAlert(int) const
+{
+    if (m_responseCode.isEmpty())
+        return std::nullopt;
+    return m_responseMessage;
+}
+
 void AccountScreenModel::setLoading(bool loading)
 {
     m_isLoading = loading;
@@ -93,8 +105,8 @@ void AccountScreenModel::handleAnswer(const HttpAnswer &answer)
             copyRecord(record);
         }
         Q_EMIT responseChanged();
-        if (!m_responseCode.isEmpty())
-            showAlert(m_responseMessage);
+        if (const std::optional<QString> message = decodedAnswerAlert(decoded.value->size()))
+            showAlert(*message);
     } else {
         Q_EMIT responseChanged();
         Console::printLine(QStringLiteral("Error decoding JSON: ") + decoded.error);

@@ -7,6 +7,8 @@
 #include <QObject>
 #include <QString>
 
+#include <optional>
+
 struct HttpAnswer;
 
 // What every account screen shares: the progress flag, the alert titled
@@ -52,11 +54,17 @@ protected:
     // here, and each decoded record reaches copyRecord first.
     void sendRequest(BackendScript script, std::initializer_list<QueryValue> values);
     void handleAnswer(const HttpAnswer &answer);
+    // Whether the backend said yes: any code but none or "0".
+    bool requestAccepted() const;
 
     // Each record of the answer, in order; the response fields are already set from it.
     virtual void copyRecord(const LoginModel &) { }
     // The screen's rule for the alert's "OK"; nothing by default.
     virtual void alertDismissed() { }
+    // What the alert says once an answer of so many records is decoded, or
+    // nothing to leave it closed: by default the backend's message, whenever
+    // it gave a code.
+    virtual std::optional<QString> decodedAnswerAlert(int records) const;
 
 private:
     bool m_isLoading = false;

@@ -4,7 +4,8 @@ import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
 // One wheel of the date picker: three rows showing, the middle one chosen.
-// It reports a choice once it comes to rest, not on every row it passes.
+// It reports a choice once it comes to rest, not on every row it passes,
+// or when a row is tapped.
 Tumbler {
     id: wheel
 
@@ -26,5 +27,13 @@ Tumbler {
         font.weight: index === wheel.currentIndex ? Font.DemiBold : Font.Normal
         color: Theme.label
         opacity: 1 - Math.abs(Tumbler.displacement) * 0.6
+
+        // A pointer can pick a row by tapping it as well as by turning the wheel.
+        TapHandler {
+            onTapped: {
+                wheel.currentIndex = index;
+                wheel.settled();
+            }
+        }
     }
 }

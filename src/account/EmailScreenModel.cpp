@@ -36,8 +36,3 @@ bool EmailScreenModel::beginRequest(bool otherInputMissing)
     setLoading(false);
     return false;
 }
-
-bool EmailScreenModel::requestAccepted() const
-{
-    return !responseCode().isEmpty() && responseCode() != QLatin1String("0");
-}

@@ -29,8 +29,6 @@ protected:
     // Starts a request. False when it must not be sent; the alert then says
     // why and the progress indicator has already gone.
     bool beginRequest(bool otherInputMissing);
-    // Whether the backend said yes: any code but none or "0".
-    bool requestAccepted() const;
 
 private:
     QString m_emailAddress;

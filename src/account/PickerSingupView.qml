@@ -3,12 +3,12 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
-// The gender choice as a sheet rising from the bottom: one row per option,
-// the chosen one ticked, and "Close".
+// The gender choice of a personal details form as a sheet rising from the
+// bottom: one row per option, the chosen one ticked, and "Close".
 Drawer {
     id: sheet
 
-    property RegisterViewModel viewModel
+    property PersonalDetailsModel viewModel
 
     edge: Qt.BottomEdge
     width: parent ? parent.width : 0

@@ -1,6 +1,37 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
 
-PendingScreen {
-    title: "ProfileView"
+// The profile destination: the overview, and over it whichever screen it
+// opened. Coming back to the overview shows what that screen changed.
+Rectangle {
+    id: profile
+
+    readonly property ProfileViewModel viewModel: ProfileViewModel {}
+
+    objectName: "ProfileView"
+    color: Theme.background
+    Component.onCompleted: viewModel.refresh()
+
+    StackView {
+        id: stack
+        objectName: "profileStack"
+        anchors.fill: parent
+        onDepthChanged: if (depth === 1) profile.viewModel.refresh()
+
+        initialItem: ProfileOverview {
+            viewModel: profile.viewModel
+            onBioRequested: stack.push("ProfileDetails.qml")
+            onMedicalRequested: stack.push("ProfileMedicalView.qml")
+            onSubscriptionRequested: stack.push("ProfileSubscriptionView.qml")
+        }
+    }
+
+    Connections {
+        target: profile.viewModel
+        function onLoggedOut() {
+            RootController.showLogin();
+        }
+    }
 }

@@ -28,35 +28,8 @@ AccountPage {
         onTextEdited: screen.viewModel.emailAddress = text
     }
 
-    Column {
-        width: parent.width
-        spacing: 6
-
-        Text {
-            leftPadding: 4
-            text: "Date of Birth"
-            font.pixelSize: 15
-            color: Theme.secondaryLabel
-        }
-
-        Rectangle {
-            width: parent.width
-            height: birthDate.height
-            radius: 10
-            color: Theme.surface
-            border.color: Theme.separator
-
-            DateOfBirthPicker {
-                id: birthDate
-                objectName: "dateOfBirth"
-                x: 8
-                width: parent.width - 16
-                day: screen.viewModel.birthDay
-                month: screen.viewModel.birthMonth
-                year: screen.viewModel.birthYear
-                onPicked: (year, month, day) => screen.viewModel.setDateOfBirth(year, month, day)
-            }
-        }
+    BirthDateBox {
+        model: screen.viewModel
     }
 
     LabelledBox {

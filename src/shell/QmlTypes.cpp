@@ -3,6 +3,12 @@
 
 #include "account/AccountScreenModel.h"
 #include "account/LoginViewModel.h"
+#include "account/NotificationViewModel.h"
+#include "account/PersonalDetailsModel.h"
+#include "account/ProfileDetailsModel.h"
+#include "account/ProfileMedicalViewModel.h"
+#include "account/ProfileSubscriptionViewModel.h"
+#include "account/ProfileViewModel.h"
 #include "account/RegisterViewModel.h"
 #include "account/ResetPasswordViewModel.h"
 #include "airquality/HealthTipsModel.h"
@@ -33,6 +39,13 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
     qmlRegisterUncreatableType<AccountScreenModel>(uri, major, minor, "AccountScreenModel", QStringLiteral("Each account screen has its own model"));
     qmlRegisterType<LoginViewModel>(uri, major, minor, "LoginViewModel");
+    qmlRegisterType<ProfileMedicalViewModel>(uri, major, minor, "ProfileMedicalViewModel");
+    qmlRegisterType<NotificationViewModel>(uri, major, minor, "NotificationViewModel");
+    qmlRegisterType<ProfileSubscriptionViewModel>(uri, major, minor, "ProfileSubscriptionViewModel");
+    qmlRegisterUncreatableType<PersonalDetailsModel>(uri, major, minor, "PersonalDetailsModel",
+                                                     QStringLiteral("Registration and the bio have their own models"));
+    qmlRegisterType<ProfileDetailsModel>(uri, major, minor, "ProfileDetailsModel");
+    qmlRegisterType<ProfileViewModel>(uri, major, minor, "ProfileViewModel");
     qmlRegisterType<RegisterViewModel>(uri, major, minor, "RegisterViewModel");
     qmlRegisterType<ResetPasswordViewModel>(uri, major, minor, "ResetPasswordViewModel");
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");

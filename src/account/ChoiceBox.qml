@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import Tarnelo 1.0
+
+// A labelled box showing the current choice in blue with a chevron; a tap
+// anywhere on it asks for the choices.
+LabelledBox {
+    id: box
+
+    property string value
+    property alias buttonName: button.objectName
+    // What the button is for, for those who cannot see it.
+    property string accessibleName
+
+    signal tapped()
+
+    AbstractButton {
+        id: button
+        anchors.fill: parent
+        Accessible.name: box.accessibleName
+        onClicked: box.tapped()
+
+        contentItem: Row {
+            layoutDirection: Qt.RightToLeft
+            spacing: 6
+
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: "›"
+                font.pixelSize: 22
+                color: Theme.gray
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: box.value
+                font.pixelSize: Theme.bodySize
+                color: Theme.blue
+            }
+        }
+    }
+}

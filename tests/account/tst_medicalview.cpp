@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "ScriptedResponder.h"
+#include "common/QuickTestSetup.h"
+#include "storage/SQliteLogin.h"
+
+#include <QtQuickTest>
+
+#include <memory>
+
+// The screen's usual setup, with a signed-in user whose saved medical
+// profile a scripted backend hands out.
+class MedicalViewSetup : public QuickTestSetup
+{
+    Q_OBJECT
+
+public Q_SLOTS:
+    void applicationAvailable()
+    {
+        QuickTestSetup::applicationAvailable();
+        m_responder->answer("/tarnelo/v1/checkmedicaldetails.php", 200,
+                            R"([{"id":"3","userid":"12","conditionstatus":"Yes","conditionname":"Asthma","emergencycontact":"Juma Otieno",)"
+                            R"("phonenumber":"0722 000111","relationship":"Spouse","weight":"64","height":"5.6","smokerstatus":"11-20 Moderate smoker",)"
+                            R"("smoker":"Smoker","moredetails":"Inhaler before running; worse in dusty air.","scode":"1","messageresponse":"ok"}])");
+        qputenv("TARNELO_BACKEND_URL", m_responder->url().toUtf8());
+        SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
+                             QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+    }
+
+private:
+    std::unique_ptr<ScriptedResponder> m_responder = std::make_unique<ScriptedResponder>();
+};
+
+QUICK_TEST_MAIN_WITH_SETUP(medicalview, MedicalViewSetup)
+#include "tst_medicalview.moc"

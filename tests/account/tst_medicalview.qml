@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtTest 1.15
+
+// The medical profile as the profile overview opens it: pushed onto a stack,
+// filled from what the backend holds, its sheets, and the way back.
+Item {
+    id: window
+    width: 390
+    height: 844
+
+    StackView {
+        id: stack
+        anchors.fill: parent
+        initialItem: Item {}
+    }
+
+    TestCase {
+        name: "ProfileMedicalView"
+        when: windowShown
+
+        property var screen
+
+        function find(name) {
+            return findChild(screen, name);
+        }
+
+        function init() {
+            warnings.restart();
+            screen = stack.push("qrc:/qml/ProfileMedicalView.qml");
+            verify(screen, "the screen builds");
+            tryVerify(() => !stack.busy, 2000);
+        }
+
+        function cleanup() {
+            stack.pop(null, StackView.Immediate);
+            wait(0);
+            compare(warnings.count(), 0, "nothing printed a warning");
+        }
+
+        function test_storedDetailsFillTheForm() {
+            tryCompare(find("conditionNameField"), "text", "Asthma", 5000);
+            compare(find("emergencyContactField").text, "Juma Otieno");
+            compare(find("mobileNumberField").placeholderText, "Mobile Number");
+            compare(find("heightField").text, "5.6");
+            compare(find("moreDetailsField").text, "Inhaler before running; worse in dusty air.");
+            verify(find("categoryRow").visible, "a smoker is asked how much");
+            verify(screenshots.save(screen, "medical.png"));
+        }
+
+        function test_nonSmokerHidesTheCategory() {
+            tryCompare(screen.viewModel, "smokingstatus", "Smoker", 5000);
+            mouseClick(find("smokingButton"));
+            const picker = find("smokingPicker");
+            tryVerify(() => picker.opened && picker.y + picker.height === window.height, 2000, "the sheet sits on the bottom edge");
+            compare(findChild(picker.contentItem, "sheetTitle").text, "Are you smoking?");
+            const wheel = findChild(picker.contentItem, "optionWheel");
+            compare(wheel.currentIndex, screen.viewModel.optionsq.indexOf("Smoker"), "the wheel shows the current answer");
+            verify(screenshots.save(screen, "medical-picker.png"));
+
+            // The row above the middle one.
+            mouseClick(wheel, wheel.width / 2, wheel.height / 6);
+            compare(screen.viewModel.smokingstatus, "Non-Smoker");
+            verify(!find("categoryRow").visible);
+            compare(screen.viewModel.selectedCategory, "Non-Smoker");
+            mouseClick(findChild(picker.contentItem, "closePicker"));
+            verify(!screen.viewModel.isPickerPresented2);
+            tryVerify(() => !picker.visible, 2000);
+        }
+
+        function test_sheetsCarryTheirTitles() {
+            const sheets = [["conditionButton", "conditionPicker", "Any Condintion?"],
+                            ["relationshipButton", "relationshipPicker", "Are a smocker?"],
+                            ["categoryButton", "categoryPicker", "Select Smoking category"]];
+            for (const [button, name, title] of sheets) {
+                const picker = find(name);
+                mouseClick(find(button));
+                tryVerify(() => picker.opened, 2000, name + " opens");
+                compare(findChild(picker.contentItem, "sheetTitle").text, title);
+                mouseClick(findChild(picker.contentItem, "closePicker"));
+                tryVerify(() => !picker.visible, 2000, name + " closes");
+            }
+        }
+
+        function test_emptyFieldIsRefusedAndBackPops() {
+            tryCompare(find("weightField"), "text", "64", 5000);
+            const weight = find("weightField");
+            weight.forceActiveFocus();
+            weight.selectAll();
+            keyClick(Qt.Key_Delete);
+            compare(screen.viewModel.weight, "");
+            const scroller = find("scroller");
+            scroller.contentY = scroller.contentHeight - scroller.height;
+            mouseClick(find("saveButton"));
+            const alert = find("alert");
+            tryVerify(() => alert.opened, 2000);
+            compare(alert.message, "All fields are required");
+            mouseClick(findChild(alert.contentItem, "alertOk"));
+            tryVerify(() => !alert.visible, 2000);
+
+            scroller.contentY = 0;
+            mouseClick(find("backButton"));
+            tryVerify(() => stack.depth === 1 && !stack.busy, 2000);
+        }
+    }
+}

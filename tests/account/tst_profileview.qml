@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtTest 1.15
+import Tarnelo 1.0
+
+// The profile as a signed-in user goes through it on a phone-sized window,
+// against the development backend: the overview, the bio changed and seen
+// again, feedback, and the way out.
+Item {
+    id: window
+    width: 390
+    height: 844
+
+    property var view
+
+    LoginViewModel {
+        id: login
+    }
+
+    SignalSpy {
+        id: rootReplaced
+        target: RootController
+        signalName: "rootReplaced"
+    }
+
+    TestCase {
+        name: "ProfileView"
+        when: windowShown
+
+        function find(name) {
+            return findChild(window.view, name);
+        }
+
+        function stack() {
+            return find("profileStack");
+        }
+
+        function waitForStack(depth) {
+            tryVerify(() => stack().depth === depth && !stack().busy, 3000);
+        }
+
+        // Brings an item of the shown page into view, as a thumb would.
+        function scrollTo(item) {
+            const scroller = findChild(stack().currentItem, "scroller");
+            const y = item.mapToItem(scroller.contentItem, 0, 0).y;
+            scroller.contentY = Math.max(0, Math.min(y - 80, scroller.contentHeight - scroller.height));
+            wait(50);
+        }
+
+        // The "OK" of a page's alert: its buttons live on the window's overlay.
+        function okOf(page, alertName) {
+            return findChild(findChild(page, alertName).contentItem, "alertOk");
+        }
+
+        function typeText(text) {
+            for (const character of text)
+                keyClick(character);
+        }
+
+        function signIn() {
+            login.emailAddress = demoEmail;
+            login.passwordtxt = demoPassword;
+            login.login();
+            tryVerify(() => login.showingAlert, 5000);
+            compare(login.responseCode !== "" && login.responseCode !== "0", true, login.alertMessage);
+        }
+
+        function initTestCase() {
+            signIn();
+            login.alertAccepted();
+        }
+
+        function init() {
+            warnings.restart();
+        }
+
+        function test_journey() {
+            window.view = Qt.createComponent("qrc:/qml/ProfileView.qml").createObject(window, { width: 390, height: 844 });
+            verify(window.view, "the profile builds");
+            const signedIn = login.date_fullname;
+
+            compare(find("fullName").text, signedIn);
+            compare(find("emailLine").text, "Email : " + demoEmail);
+            compare(find("genderLine").text, "Gender : Female", "the demo account is stored with code 2");
+            compare(find("birthDateLine").text, "Date Of Birth: " + login.date_dateofbirth);
+            // Every new account starts on the free package.
+            tryCompare(find("statusLine"), "text", "Subscription Status: Active", 5000);
+            compare(find("typeLine").text, "Type: Individual");
+            compare(find("categoryLine").text, "Category: Freemium");
+            compare(find("conditionLine").text, "Condition: Not Provided");
+            verify(screenshots.save(window.view, "profile.png"));
+
+            // The bio, changed on the backend and on the device.
+            mouseClick(find("bioLink"));
+            waitForStack(2);
+            const bio = stack().currentItem;
+            compare(findChild(bio, "fullNameField").text, signedIn);
+            compare(findChild(bio, "yearWheel").currentIndex, Number(login.date_dateofbirth.substring(0, 4)) - 1900);
+            verify(!findChild(bio, "yearWheel").moving, "the wheels open on the stored day");
+            compare(bio.viewModel.selectedOption, "Female");
+            verify(screenshots.save(window.view, "profile-bio.png"));
+
+            mouseClick(findChild(bio, "genderButton"));
+            const sheet = findChild(bio, "genderPicker");
+            tryVerify(() => sheet.position === 1, 2000);
+            verify(screenshots.save(window.view, "profile-bio-gender.png"));
+            mouseClick(findChild(sheet.contentItem, "option_Others"));
+            tryVerify(() => !sheet.visible, 2000);
+
+            const nameField = findChild(bio, "fullNameField");
+            mouseClick(nameField);
+            nameField.selectAll();
+            keyClick(Qt.Key_Delete);
+            mouseClick(findChild(bio, "updateButton"));
+            tryVerify(() => bio.viewModel.showingAlert, 2000);
+            compare(bio.viewModel.alertMessage, "Fullname, Email and Password Required");
+            mouseClick(okOf(bio, "alert"));
+
+            mouseClick(nameField);
+            typeText("Dana Otieno");
+            mouseClick(findChild(bio, "updateButton"));
+            tryVerify(() => bio.viewModel.showingAlert && !bio.viewModel.isLoading, 5000);
+            verify(bio.viewModel.responseCode !== "0", bio.viewModel.alertMessage);
+            verify(screenshots.save(window.view, "profile-bio-updated.png"));
+            mouseClick(okOf(bio, "alert"));
+            mouseClick(findChild(bio, "backButton"));
+            waitForStack(1);
+            compare(find("fullName").text, "Dana Otieno");
+            compare(find("genderLine").text, "Gender : Others");
+            compare(find("birthDateLine").text, "Date Of Birth: " + login.date_dateofbirth, "the wheels kept the stored day");
+
+            // What the backend now answers for this account.
+            signIn();
+            compare(login.date_fullname, "Dana Otieno");
+            compare(login.date_gender, "3");
+
+            // The other two screens the overview leads to, and back.
+            for (const link of ["medicalLink", "subscriptionLink"]) {
+                scrollTo(find(link));
+                mouseClick(find(link));
+                waitForStack(2);
+                mouseClick(findChild(stack().currentItem, "backButton"));
+                waitForStack(1);
+            }
+
+            // Feedback: none is refused on the device, some is thanked for.
+            const box = find("feedbackBox");
+            scrollTo(box);
+            mouseClick(find("sendFeedbackButton"));
+            tryVerify(() => window.view.viewModel.showingAlert, 2000);
+            compare(window.view.viewModel.alertMessage, "Please fill in your feedback");
+            mouseClick(okOf(stack().currentItem, "alert"));
+            mouseClick(box);
+            typeText("Dust & smoke");
+            compare(window.view.viewModel.feedbacks, "Dust & smoke");
+            verify(screenshots.save(window.view, "profile-feedback.png"));
+            mouseClick(find("sendFeedbackButton"));
+            tryVerify(() => window.view.viewModel.showingAlert && !window.view.viewModel.isLoading, 5000);
+            compare(window.view.viewModel.alertMessage, "Thank you for your feedback.");
+            compare(box.text, "", "the box is ready for more");
+            mouseClick(okOf(stack().currentItem, "alert"));
+
+            // Logout asks first, then hands the window to a fresh login.
+            scrollTo(find("logoutButton"));
+            mouseClick(find("logoutButton"));
+            const confirmation = find("logoutAlert");
+            tryVerify(() => confirmation.opened, 2000);
+            verify(screenshots.save(window.view, "profile-logout.png"));
+            mouseClick(findChild(confirmation.contentItem, "alertOk"));
+            compare(rootReplaced.count, 1);
+            compare(RootController.rootView, "LoginView");
+            compare(window.view.viewModel.useriddata, "");
+
+            // A second logout has nothing left to end.
+            mouseClick(find("logoutButton"));
+            tryVerify(() => confirmation.opened, 2000);
+            mouseClick(findChild(confirmation.contentItem, "alertOk"));
+            compare(rootReplaced.count, 1);
+
+            window.view.destroy();
+            wait(0);
+            compare(warnings.count(), 0, "nothing printed a warning");
+        }
+    }
+}

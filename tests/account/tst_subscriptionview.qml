@@ -1,0 +1,102 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtTest 1.15
+
+// The subscription screen as a person uses it: packages, the package sheet,
+// the payment channels, "Subscribe" and the way back to the overview.
+Item {
+    id: window
+    width: 390
+    height: 844
+
+    property var view
+
+    TestCase {
+        name: "SubscriptionView"
+        when: windowShown
+
+        function find(name) {
+            return findChild(window.view, name);
+        }
+
+        function init() {
+            warnings.restart();
+            window.view = Qt.createComponent("qrc:/qml/ProfileSubscriptionView.qml").createObject(window, { width: 390, height: 844 });
+            verify(window.view, "the subscription screen builds");
+        }
+
+        function cleanup() {
+            window.view.destroy();
+            wait(0);
+            compare(warnings.count(), 0, "nothing printed a warning");
+        }
+
+        function test_opensOnFreemiumWithNoChannel() {
+            verify(find("package_Freemium").isSelected);
+            verify(!find("package_Premium").isSelected);
+            compare(find("packageButton").Accessible.name, "Select Package category");
+            compare(find("amount").text, "0000");
+            compare(find("benefits").text, "1. Bulk subscriptions\n2. Employer sponsorship\n3. Corporate billing\n4. Monetizing data analysis");
+            compare(findChild(find("channel_1"), "checkMark").name, "circle");
+            compare(findChild(find("channel_2"), "checkMark").name, "circle");
+            verify(!find("backButton").visible, "no way back when nothing is under it");
+            verify(screenshots.save(window.view, "subscription.png"));
+
+            mouseClick(find("benefitsHeading"));
+            verify(!find("benefits").visible);
+            mouseClick(find("benefitsHeading"));
+            verify(find("benefits").visible);
+        }
+
+        function test_oneChannelThenSubscribe() {
+            mouseClick(find("package_Premium"));
+            verify(find("package_Premium").isSelected);
+            verify(!find("package_Freemium").isSelected);
+
+            mouseClick(find("subscribeButton"));
+            const alert = find("alert");
+            tryVerify(() => alert.opened, 2000);
+            compare(alert.message, "Please choose how to pay for the Premium package");
+            mouseClick(findChild(alert.contentItem, "alertOk"));
+            tryVerify(() => !alert.visible, 2000);
+
+            mouseClick(find("channel_1"));
+            mouseClick(find("channel_2"));
+            verify(find("channel_2").checkedRow);
+            verify(!find("channel_1").checkedRow, "the check mark moved");
+            compare(findChild(find("channel_1"), "checkMark").name, "circle");
+            mouseClick(find("subscribeButton"));
+            tryVerify(() => alert.opened, 2000);
+            verify(alert.message.startsWith("You chose the Premium package, paid by Online Payment (VISA)."));
+            verify(screenshots.save(window.view, "subscription-alert.png"));
+            mouseClick(findChild(alert.contentItem, "alertOk"));
+        }
+
+        function test_packageSheet() {
+            mouseClick(find("packageButton"));
+            const picker = find("packagePicker");
+            tryVerify(() => picker.position === 1 && picker.y + picker.height === window.height, 2000, "the sheet sits on the bottom edge");
+            const wheel = findChild(picker.contentItem, "optionWheel");
+            mouseDrag(wheel, wheel.width / 2, wheel.height / 2, 0, -wheel.height / 3);
+            tryCompare(window.view.viewModel, "selectedOption", "Premium", 3000);
+            verify(find("package_Premium").isSelected, "the radio rows follow the wheel");
+            verify(screenshots.save(window.view, "subscription-packages.png"));
+            mouseClick(findChild(picker.contentItem, "closePicker"));
+            verify(!window.view.viewModel.isPickerPresented);
+            tryVerify(() => !picker.visible, 2000);
+        }
+
+        function test_backReturnsToTheScreenUnder() {
+            const stack = Qt.createQmlObject("import QtQuick.Controls 2.15; StackView { width: 390; height: 844 }", window);
+            stack.push(Qt.createQmlObject("import QtQuick 2.15; Item {}", stack));
+            const pushed = stack.push("qrc:/qml/ProfileSubscriptionView.qml");
+            tryVerify(() => !stack.busy, 2000);
+            const back = findChild(pushed, "backButton");
+            verify(back.visible);
+            mouseClick(back);
+            tryVerify(() => stack.depth === 1 && !stack.busy, 2000);
+            stack.destroy();
+        }
+    }
+}
