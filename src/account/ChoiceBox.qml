@@ -10,6 +10,7 @@ LabelledBox {
 
     property string value
     property alias buttonName: button.objectName
+    property alias valueName: valueText.objectName
     // What the button is for, for those who cannot see it.
     property string accessibleName
 
@@ -32,6 +33,7 @@ LabelledBox {
                 color: Theme.gray
             }
             Text {
+                id: valueText
                 anchors.verticalCenter: parent.verticalCenter
                 text: box.value
                 font.pixelSize: Theme.bodySize

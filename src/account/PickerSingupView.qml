@@ -5,34 +5,13 @@ import Tarnelo 1.0
 
 // The gender choice of a personal details form as a sheet rising from the
 // bottom: one row per option, the chosen one ticked, and "Close".
-Drawer {
+BottomSheet {
     id: sheet
 
     property PersonalDetailsModel viewModel
 
-    edge: Qt.BottomEdge
-    width: parent ? parent.width : 0
-    height: implicitContentHeight + topPadding + bottomPadding
-    interactive: false
-    padding: 0
-    topPadding: 18
-    bottomPadding: 24
     visible: sheet.viewModel.isPickerPresented
     onClosed: sheet.viewModel.isPickerPresented = false
-    Overlay.modal: Rectangle { color: Theme.scrim }
-
-    background: Rectangle {
-        radius: 16
-        color: Theme.surface
-
-        // Square off the bottom corners: the sheet sits on the window's edge.
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: parent.radius
-            color: parent.color
-        }
-    }
 
     contentItem: Column {
         spacing: 4

@@ -32,33 +32,12 @@ AccountPage {
         model: screen.viewModel
     }
 
-    LabelledBox {
+    ChoiceBox {
         label: "Gender"
-
-        AbstractButton {
-            objectName: "genderButton"
-            anchors.fill: parent
-            onClicked: screen.viewModel.isPickerPresented = true
-
-            contentItem: Row {
-                layoutDirection: Qt.RightToLeft
-                spacing: 6
-
-                Text {
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: "›"
-                    font.pixelSize: 22
-                    color: Theme.gray
-                }
-                Text {
-                    objectName: "selectedGender"
-                    anchors.verticalCenter: parent.verticalCenter
-                    text: screen.viewModel.selectedOption
-                    font.pixelSize: Theme.bodySize
-                    color: Theme.blue
-                }
-            }
-        }
+        buttonName: "genderButton"
+        valueName: "selectedGender"
+        value: screen.viewModel.selectedOption
+        onTapped: screen.viewModel.isPickerPresented = true
     }
 
     AccountField {

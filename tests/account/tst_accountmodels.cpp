@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The login, registration and reset screens' models against a scripted backend.
-#include "ScriptedResponder.h"
+#include "AnswerWait.h"
 #include "account/EmailPattern.h"
 #include "account/LoginViewModel.h"
 #include "account/RegisterViewModel.h"
 #include "account/ResetPasswordViewModel.h"
+#include "common/ScriptedResponder.h"
 #include "common/StdoutCapture.h"
 
 #include <QSignalSpy>
@@ -26,10 +27,6 @@ std::string answerWithCode(const char *code)
         + code + R"(","messageresponse":"Welcome back"}])";
 }
 
-bool waitUntilAnswered(const AccountScreenModel &model)
-{
-    return QTest::qWaitFor([&model] { return !model.isLoading(); }, 5000);
-}
 } // namespace
 
 class AccountModelsTest : public QObject

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The medical profile's model against a scripted backend: what it sends,
 // what it refuses to send, what it reads back and how it reports the answer.
-#include "ScriptedResponder.h"
+#include "AnswerWait.h"
 #include "account/ProfileMedicalViewModel.h"
+#include "common/ScriptedResponder.h"
 
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -29,10 +30,6 @@ void fillTextFields(ProfileMedicalViewModel &model)
     model.setHeight(QStringLiteral("5.6"));
 }
 
-bool waitUntilAnswered(const ProfileMedicalViewModel &model)
-{
-    return QTest::qWaitFor([&model] { return !model.isLoading(); }, 5000);
-}
 } // namespace
 
 class MedicalModelTest : public QObject

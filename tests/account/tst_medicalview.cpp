@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ScriptedResponder.h"
 #include "common/QuickTestSetup.h"
+#include "common/ScriptedResponder.h"
 #include "storage/SQliteLogin.h"
 
 #include <QtQuickTest>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The notifications screen against a scripted backend, as a signed-in user.
-#include "ScriptedResponder.h"
 #include "common/QuickTestSetup.h"
+#include "common/ScriptedResponder.h"
 #include "storage/SQliteLogin.h"
 
 #include <QQmlContext>

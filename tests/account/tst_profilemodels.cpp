@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The profile overview and the personal bio against a scripted backend.
-#include "ScriptedResponder.h"
+#include "AnswerWait.h"
 #include "account/ProfileDetailsModel.h"
 #include "account/ProfileViewModel.h"
+#include "common/ScriptedResponder.h"
 
 #include <QSignalSpy>
 #include <QStandardPaths>
@@ -25,10 +26,6 @@ void storeAmina(const QString &gender = QStringLiteral("2"), const QString &date
                          gender, QStringLiteral("2026-01-05"));
 }
 
-bool waitUntilAnswered(const AccountScreenModel &model)
-{
-    return QTest::qWaitFor([&model] { return !model.isLoading(); }, 5000);
-}
 } // namespace
 
 class ProfileModelsTest : public QObject

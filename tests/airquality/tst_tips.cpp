@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ScriptedResponder.h"
+#include "common/ScriptedResponder.h"
 #include "airquality/MainCategoryViewModel.h"
 #include "airquality/PollutantCardModel.h"
 #include "airquality/TipsViewModel.h"

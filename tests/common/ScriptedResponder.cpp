@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ScriptedResponder.h"
+#include "common/ScriptedResponder.h"
 
 #include <httplib.h>
 
