@@ -42,6 +42,7 @@ Rectangle {
 
             Text {
                 id: headingText
+                objectName: "pageHeading"
                 width: parent.width
                 wrapMode: Text.Wrap
                 font.pixelSize: Theme.titleSize

@@ -12,16 +12,17 @@ Rectangle {
 
     objectName: "ProfileView"
     color: Theme.background
-    Component.onCompleted: viewModel.refresh()
 
     StackView {
         id: stack
         objectName: "profileStack"
         anchors.fill: parent
-        onDepthChanged: if (depth === 1) profile.viewModel.refresh()
 
         initialItem: ProfileOverview {
             viewModel: profile.viewModel
+            // Once when the profile opens, and again on each return from a
+            // screen it opened, which may have changed what it shows.
+            StackView.onActivated: profile.viewModel.refresh()
             onBioRequested: stack.push("ProfileDetails.qml")
             onMedicalRequested: stack.push("ProfileMedicalView.qml")
             onSubscriptionRequested: stack.push("ProfileSubscriptionView.qml")

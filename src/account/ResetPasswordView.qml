@@ -13,8 +13,8 @@ AccountPage {
     signal backRequested()
 
     model: viewModel
-    heading: "Forgot your password?"
-    title: "RESET PASSWORD"
+    heading: "Reset Password!"
+    title: "Get New Password"
 
     Text {
         width: parent.width

@@ -14,15 +14,14 @@ QString DocumentsDirectory::path()
         qCWarning(lcStorage, "No per-user data directory is known (is HOME set?)");
         return {};
     }
-    QDir dir(location);
-    if (dir.exists())
-        return location;
-    if (!dir.mkpath(QStringLiteral("."))) {
+    if (!QDir(location).exists() && !QDir().mkpath(location)) {
         qCWarning(lcStorage, "Cannot create the data directory %s", qUtf8Printable(location));
         return {};
     }
-    // The XDG base directory rules ask for 0700 on directories the app creates;
-    // the session row inside is personal data.
-    QFile::setPermissions(location, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // The XDG base directory rules ask for 0700, and the session row inside is
+    // personal data: a directory left wider by an older run or another tool is
+    // tightened too, not only one made here.
+    if (!QFile::setPermissions(location, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner))
+        qCWarning(lcStorage, "Cannot restrict the data directory %s to its owner", qUtf8Printable(location));
     return location;
 }

@@ -89,7 +89,8 @@ Item {
             mouseClick(find("forgetPasswordLink"));
             waitForStack(2);
             const reset = shownScreen();
-            compare(findChild(reset, "pageTitle").text, "RESET PASSWORD");
+            compare(findChild(reset, "pageHeading").text, "Reset Password!");
+            compare(findChild(reset, "pageTitle").text, "Get New Password");
             verify(screenshots.save(window.view, "reset.png"));
 
             mouseClick(findChild(reset, "resetButton"));

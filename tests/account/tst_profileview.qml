@@ -57,6 +57,15 @@ Item {
                 keyClick(character);
         }
 
+        // Each appearance of the overview asks once for each of its two lists.
+        function expectOneFetchEach(appearances) {
+            for (const script of ["checksubscription.php", "checkmedical.php"])
+                tryVerify(() => backend.requestsTo(script) >= appearances, 3000, script);
+            wait(200); // a duplicate would be sent at once, so it would be in by now
+            for (const script of ["checksubscription.php", "checkmedical.php"])
+                compare(backend.requestsTo(script), appearances, script);
+        }
+
         function signIn() {
             login.emailAddress = demoEmail;
             login.passwordtxt = demoPassword;
@@ -89,6 +98,7 @@ Item {
             compare(find("categoryLine").text, "Category: Freemium");
             compare(find("conditionLine").text, "Condition: Not Provided");
             verify(screenshots.save(window.view, "profile.png"));
+            expectOneFetchEach(1);
 
             // The bio, changed on the backend and on the device.
             mouseClick(find("bioLink"));
@@ -128,6 +138,7 @@ Item {
             compare(find("fullName").text, "Dana Otieno");
             compare(find("genderLine").text, "Gender : Others");
             compare(find("birthDateLine").text, "Date Of Birth: " + login.date_dateofbirth, "the wheels kept the stored day");
+            expectOneFetchEach(2);
 
             // What the backend now answers for this account.
             signIn();

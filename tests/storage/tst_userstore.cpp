@@ -3,6 +3,7 @@
 #include "storage/SQliteLogin.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QRegularExpression>
 #include <QStandardPaths>
 #include <QTemporaryDir>
@@ -179,6 +180,9 @@ private Q_SLOTS:
         const QByteArray savedHome = qgetenv("HOME");
         qputenv("HOME", QFile::encodeName(home.path()));
         const QString dataDir = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
+        // Left wide open by an earlier run or another tool.
+        QVERIFY(QDir().mkpath(dataDir));
+        QVERIFY(QFile::setPermissions(dataDir, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther));
         const QStringList printed = printedBy([] { SQliteLogin store; });
         qputenv("HOME", savedHome);
 
