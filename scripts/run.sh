@@ -15,7 +15,7 @@ history_key=0123456789abcdef0123456789abcdef
 # The backend's console goes to the terminal and to a log; ports are chosen
 # by the system and read back from its ready line.
 : > "$log"
-"$server" --data "$data" --https-port 0 --http-port 0 --history-key "$history_key" > >(tee -a "$log") 2>&1 &
+"$server" --data "$data" --https-port 0 --http-port 0 --history-key "$history_key" --print-reset-passwords > >(tee -a "$log") 2>&1 &
 server_pid=$!
 trap 'kill "$server_pid" 2>/dev/null || true; wait "$server_pid" 2>/dev/null || true' EXIT
 

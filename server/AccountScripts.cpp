@@ -3,21 +3,30 @@
 
 #include "server/Console.h"
 #include "server/InputRules.h"
+#include "server/LoginThrottle.h"
 #include "server/PasswordHash.h"
+#include "server/SessionStore.h"
 #include "server/UserStore.h"
+
+#include <algorithm>
+#include <cctype>
 
 // Required parameters, in the order the app sends them (others may be empty):
 //   register.php    fullname, emailaddress, password (referral_code is accepted and unused)
 //   login.php       username, passcode
 //   resetpass.php   emailaddress
-//   updateuser.php  fullname, emailaddress, userid
-//   logout.php      userid
+//   updateuser.php  fullname, emailaddress, userid (the session token login gave)
+//   logout.php      userid (likewise)
 // Optional ones are still checked when given: dateofbirth must be a real day
 // written yyyy-MM-dd, gender one of "1" (male), "2" (female), "3" (others).
 
 namespace
 {
-const std::string emailTaken = "An account with this email address already exists.";
+// Neither names an existing account. The refusal itself still tells a prober
+// that the address is taken, since a free one would have been accepted, so
+// each such refusal counts as a failure of the client.
+const std::string cannotRegister = "This email address cannot be used to register. If it is yours, log in or reset your password.";
+const std::string cannotUpdate = "This email address cannot be used for this account.";
 // One message for both causes, so that the answer does not reveal which addresses have accounts.
 const std::string wrongCredentials = "Incorrect email address or password.";
 
@@ -39,44 +48,86 @@ UserDetails readDetails(const Query &query)
         throw BadInput("Malformed parameter: gender must be 1, 2 or 3");
     return details;
 }
+
+// Addresses are the same account in any letter case (ASCII, as SQLite's NOCASE).
+std::string emailKey(std::string email)
+{
+    std::transform(email.begin(), email.end(), email.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    return "e-mail " + email;
+}
+
+std::string clientKey(const ScriptRequest &request)
+{
+    return "client " + request.clientAddress;
+}
+
+std::string durationText(std::chrono::seconds wait)
+{
+    const auto count = wait.count();
+    if (count < 120)
+        return std::to_string(count) + (count == 1 ? " second" : " seconds");
+    return std::to_string((count + 59) / 60) + " minutes";
+}
+
+ScriptAnswer waitAnswer(std::chrono::seconds wait)
+{
+    return answerWith(refusedRecord("Too many attempts. Please wait " + durationText(wait) + " before trying again."));
+}
 } // namespace
 
-AccountScripts::AccountScripts(UserStore &users)
+AccountScripts::AccountScripts(UserStore &users, SessionStore &sessions, LoginThrottle &throttle, ResetPasswords resetPasswords)
     : m_users(users)
+    , m_sessions(sessions)
+    , m_throttle(throttle)
+    , m_resetPasswords(resetPasswords)
+    , m_decoyHash(hashPassword(randomReadablePassword()))
 {
 }
 
 void AccountScripts::addTo(ScriptRouter &router)
 {
-    router.add("register.php", [this](const Query &query) { return registerAccount(query); });
-    router.add("login.php", [this](const Query &query) { return login(query); });
-    router.add("resetpass.php", [this](const Query &query) { return resetPassword(query); });
-    router.add("updateuser.php", [this](const Query &query) { return updateUser(query); });
-    router.add("logout.php", [this](const Query &query) { return logout(query); });
+    const auto refusal = ScriptRouter::Refusal::AccountRecord;
+    router.add("register.php", refusal, [this](const ScriptRequest &request) { return registerAccount(request); });
+    router.add("login.php", refusal, [this](const ScriptRequest &request) { return login(request); });
+    router.add("resetpass.php", refusal, [this](const ScriptRequest &request) { return resetPassword(request.query); });
+    router.add("updateuser.php", refusal, [this](const ScriptRequest &request) { return updateUser(request); });
+    router.add("logout.php", refusal, [this](const ScriptRequest &request) { return logout(request.query); });
 }
 
-ScriptAnswer AccountScripts::registerAccount(const Query &query)
+ScriptAnswer AccountScripts::registerAccount(const ScriptRequest &request)
 {
-    const UserDetails details = readDetails(query);
-    const std::string password = query.required("password");
+    const UserDetails details = readDetails(request.query);
+    const std::string password = request.query.required("password");
+    if (const std::chrono::seconds wait = m_throttle.waitFor(clientKey(request)); wait.count() > 0)
+        return waitAnswer(wait);
     const std::optional<User> user = m_users.create(details, hashPassword(password));
-    if (!user)
-        return answerWith(refusedRecord(emailTaken));
+    if (!user) {
+        m_throttle.recordFailure(clientKey(request));
+        return answerWith(refusedRecord(cannotRegister));
+    }
+    // No session: the app logs in next, as it would after any registration.
     return answerWith(acceptedRecord(*user, "Registration successful. You can now log in."));
 }
 
-ScriptAnswer AccountScripts::login(const Query &query)
+ScriptAnswer AccountScripts::login(const ScriptRequest &request)
 {
-    const std::string email = query.required("username");
-    const std::string password = query.required("passcode");
+    const std::string email = request.query.required("username");
+    const std::string password = request.query.required("passcode");
+    std::chrono::seconds wait = m_throttle.waitFor(clientKey(request));
+    if (wait.count() == 0)
+        wait = m_throttle.begin(emailKey(email));
+    if (wait.count() > 0)
+        return waitAnswer(wait);
+    // An unknown address is checked against the decoy, so that it takes as
+    // long as a wrong password does.
     const std::optional<UserStore::Credentials> credentials = m_users.credentials(email);
-    if (!credentials) {
-        spendPasswordCheckTime(password);
+    const bool matches = passwordMatches(password, credentials ? credentials->passwordHash : m_decoyHash);
+    if (!credentials || !matches) {
+        m_throttle.recordFailure(clientKey(request));
         return answerWith(refusedRecord(wrongCredentials));
     }
-    if (!passwordMatches(password, credentials->passwordHash))
-        return answerWith(refusedRecord(wrongCredentials));
-    return answerWith(acceptedRecord(credentials->user, "Login successful."));
+    m_throttle.clear(emailKey(email));
+    return answerWith(sessionRecord(credentials->user, m_sessions.open(credentials->user.id), "Login successful."));
 }
 
 ScriptAnswer AccountScripts::resetPassword(const Query &query)
@@ -85,31 +136,32 @@ ScriptAnswer AccountScripts::resetPassword(const Query &query)
     // not tell strangers who has an account. Nothing changes for it, though.
     const std::string email = emailAddress(query, "emailaddress");
     const std::string password = randomReadablePassword();
-    if (m_users.setPasswordHash(email, hashPassword(password)))
+    if (!m_users.setPasswordHash(email, hashPassword(password)))
+        Console::printLine("Password reset asked for " + email + ", which has no account: nothing changed.");
+    else if (m_resetPasswords == ResetPasswords::Printed)
         Console::printLine("Password reset for " + email + ": " + password);
     else
-        Console::printLine("Password reset asked for " + email + ", which has no account: nothing changed.");
+        Console::printLine("Password reset for " + email + " (start with --print-reset-passwords to see new passwords).");
     return answerWith(acceptedRecord(User(), "A new password has been sent to your email address."));
 }
 
-ScriptAnswer AccountScripts::updateUser(const Query &query)
+ScriptAnswer AccountScripts::updateUser(const ScriptRequest &request)
 {
-    const UserDetails details = readDetails(query);
-    const std::int64_t id = query.userId("userid");
-    switch (m_users.update(id, details)) {
-    case UserStore::UpdateResult::EmailTaken:
-        return answerWith(refusedRecord(emailTaken));
-    case UserStore::UpdateResult::UnknownUser:
-        return answerWith(unknownUserRecord());
-    case UserStore::UpdateResult::Updated:
-        break;
+    const UserDetails details = readDetails(request.query);
+    const std::int64_t id = signedInUser(m_sessions, request.query, "userid");
+    if (const std::chrono::seconds wait = m_throttle.waitFor(clientKey(request)); wait.count() > 0)
+        return waitAnswer(wait);
+    const std::optional<User> updated = m_users.update(id, details);
+    if (!updated) {
+        m_throttle.recordFailure(clientKey(request));
+        return answerWith(refusedRecord(cannotUpdate));
     }
-    const std::optional<User> user = m_users.find(id);
-    return answerWith(user ? acceptedRecord(*user, "Your profile has been updated.") : unknownUserRecord());
+    return answerWith(acceptedRecord(*updated, "Your profile has been updated."));
 }
 
 ScriptAnswer AccountScripts::logout(const Query &query)
 {
-    const std::optional<User> user = m_users.find(query.userId("userid"));
-    return answerWith(user ? acceptedRecord(*user, "You have been logged out.") : unknownUserRecord());
+    signedInUser(m_sessions, query, "userid");
+    m_sessions.close(query.required("userid"));
+    return answerWith(acceptedRecord(User(), "You have been logged out."));
 }

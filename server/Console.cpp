@@ -6,9 +6,22 @@
 
 void Console::printLine(const std::string &line)
 {
+    // Lines may carry text from requests: a control character could forge a
+    // line or rewrite the terminal, so each is shown as %XX instead.
+    std::string shown;
+    for (const char c : line) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte >= 0x20 && byte != 0x7f) {
+            shown += c;
+        } else {
+            char escaped[4];
+            std::snprintf(escaped, sizeof escaped, "%%%02X", byte);
+            shown += escaped;
+        }
+    }
     static std::mutex mutex;
     const std::lock_guard<std::mutex> lock(mutex);
-    std::fwrite(line.data(), 1, line.size(), stdout);
+    std::fwrite(shown.data(), 1, shown.size(), stdout);
     std::fputc('\n', stdout);
     std::fflush(stdout);
 }

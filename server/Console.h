@@ -5,7 +5,8 @@
 
 namespace Console
 {
-// One whole line on standard output, flushed at once. Request threads print
-// concurrently, and scripts read these lines, so lines must never interleave.
+// One whole line on standard output, flushed at once, with any control
+// characters in it escaped. Request threads print concurrently, and scripts
+// read these lines, so lines must never interleave.
 void printLine(const std::string &line);
 } // namespace Console

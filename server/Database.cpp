@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/Database.h"
 
+#include "server/PrivateFiles.h"
+
 #include <sqlite3.h>
 
 #include <stdexcept>
@@ -65,6 +67,11 @@ std::int64_t Statement::integer(int column) const
 
 Database::Database(const std::string &path)
 {
+    // The file holds password hashes, and its -wal and -shm companions copies
+    // of its pages. SQLite makes new companions with the main file's mode, but
+    // files left from an earlier run keep theirs: narrow all three first.
+    for (const char *suffix : { "", "-wal", "-shm" })
+        restrictExistingFile(path + suffix);
     if (sqlite3_open_v2(path.c_str(), &m_connection, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr) != SQLITE_OK) {
         const std::string reason = m_connection ? sqlite3_errmsg(m_connection) : "out of memory";
         sqlite3_close(m_connection);

@@ -47,8 +47,9 @@ EnvironmentScripts::EnvironmentScripts(std::optional<OpenWeatherClient> upstream
 
 void EnvironmentScripts::addTo(ScriptRouter &router)
 {
-    router.add("airquality.php", [this](const Query &query) { return airQuality(query); });
-    router.add("weatherapi.php", [this](const Query &query) { return weather(query); });
+    // The app decodes these as lists of readings: a refusal is an empty list.
+    router.add("airquality.php", ScriptRouter::Refusal::EmptyList, [this](const ScriptRequest &request) { return airQuality(request.query); });
+    router.add("weatherapi.php", ScriptRouter::Refusal::EmptyList, [this](const ScriptRequest &request) { return weather(request.query); });
 }
 
 ScriptAnswer EnvironmentScripts::airQuality(const Query &query) const

@@ -16,8 +16,6 @@ void configure(httplib::Server &server)
 {
     // Small answers must leave at once, not wait for the client's delayed ACK (Nagle).
     server.set_tcp_nodelay(true);
-    // A stop waits for idle kept-alive connections to time out; keep that short.
-    server.set_keep_alive_timeout(1);
     server.set_logger([](const httplib::Request &request, const httplib::Response &response) { Console::printLine(requestLogLine(request, response)); });
 }
 
@@ -33,23 +31,23 @@ httplib::Server::HandlerWithResponse answerEmptyErrors(httplib::Server::Handler 
     };
 }
 
-int bindOne(httplib::Server &server, const std::string &host, int port, const char *name)
+int requireBound(int bound, const std::string &host, int port, const char *name)
 {
-    const int bound = port == 0 ? server.bind_to_any_port(host) : (server.bind_to_port(host, port) ? port : -1);
     if (bound <= 0)
         throw std::runtime_error(std::string("cannot listen for ") + name + " on " + host + " port " + std::to_string(port));
     return bound;
 }
 } // namespace
 
-Listeners::Listeners(const TlsFiles &tls, const ScriptRouter &scripts, const HistoryService &history)
-    : m_https(tls.certificate.c_str(), tls.privateKey.c_str())
+Listeners::Listeners(const TlsFiles &tls, const ScriptRouter &scripts, const HistoryService &history, const ConnectionLimits &limits)
+    : m_https(limits, tls.certificate.c_str(), tls.privateKey.c_str())
+    , m_http(limits)
 {
     if (!m_https.is_valid())
         throw std::runtime_error("cannot load the TLS certificate " + tls.certificate);
 
     m_https.Get(R"(/tarnelo/v1/([^/]+))",
-                [&scripts](const httplib::Request &request, httplib::Response &response) { scripts.serve(request.matches[1], request.params, response); });
+                [&scripts](const httplib::Request &request, httplib::Response &response) { scripts.serve(request.matches[1], request, response); });
     m_https.set_error_handler(answerEmptyErrors(
         [](const httplib::Request &request, httplib::Response &response) { ScriptRouter::refuse(response, "Nothing is served at " + request.path); }));
 
@@ -65,13 +63,13 @@ Listeners::Listeners(const TlsFiles &tls, const ScriptRouter &scripts, const His
 
 void Listeners::bind(const std::string &host, int httpsPort, int httpPort)
 {
-    m_httpsPort = bindOne(m_https, host, httpsPort, "HTTPS");
-    m_httpPort = bindOne(m_http, host, httpPort, "HTTP");
+    m_httpsPort = requireBound(m_https.bindTo(host, httpsPort), host, httpsPort, "HTTPS");
+    m_httpPort = requireBound(m_http.bindTo(host, httpPort), host, httpPort, "HTTP");
 }
 
 void Listeners::start(std::function<void()> stopped)
 {
-    for (httplib::Server *server : { static_cast<httplib::Server *>(&m_https), &m_http })
+    for (httplib::Server *server : std::initializer_list<httplib::Server *> { &m_https, &m_http })
         m_threads.emplace_back([this, server, stopped] {
             server->listen_after_bind();
             ++m_finished;
@@ -95,8 +93,8 @@ void Listeners::stop()
     // A server's stop() does nothing before it runs, so a stop that comes
     // early would be lost: repeat it until both have really ended.
     while (m_finished < m_threads.size()) {
-        m_https.stop();
-        m_http.stop();
+        m_https.shutDown();
+        m_http.shutDown();
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     for (std::thread &thread : m_threads)

@@ -11,6 +11,11 @@ struct Options {
     int httpsPort = 8443;
     int httpPort = 8080;
     std::string historyKey = "0123456789abcdef0123456789abcdef";
+    // The wait after the fifth failed login for an address or a client, in seconds.
+    int throttleDelay = 30;
+    // Shows reset passwords on the console, where a developer reads them in
+    // place of the e-mail a real service would send.
+    bool printResetPasswords = false;
 };
 
 // The options, or nothing after printing what was wrong to standard error.

@@ -8,10 +8,6 @@
 std::string hashPassword(const std::string &password);
 bool passwordMatches(const std::string &password, const std::string &hash);
 
-// Spends the time of a real check, so that an unknown address is not told
-// apart from a wrong password by how long the answer takes.
-void spendPasswordCheckTime(const std::string &password);
-
 // A fresh random password that is easy to read and type: 12 characters from an
 // alphabet without look-alikes such as 0/O and 1/l/I.
 std::string randomReadablePassword();

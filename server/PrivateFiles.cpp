@@ -11,16 +11,30 @@
 
 namespace fs = std::filesystem;
 
+namespace
+{
+void setMode(const std::string &path, fs::perms mode)
+{
+    std::error_code error;
+    fs::permissions(path, mode, fs::perm_options::replace, error);
+    if (error)
+        throw std::runtime_error("cannot restrict " + path + ": " + error.message());
+}
+} // namespace
+
 void ensurePrivateDirectory(const std::string &path)
 {
     std::error_code error;
-    if (fs::is_directory(path, error))
-        return;
-    if (!fs::create_directories(path, error) || error)
+    if (!fs::is_directory(path, error) && (!fs::create_directories(path, error) || error))
         throw std::runtime_error("cannot create directory " + path + ": " + error.message());
-    fs::permissions(path, fs::perms::owner_all, fs::perm_options::replace, error);
-    if (error)
-        throw std::runtime_error("cannot restrict directory " + path + ": " + error.message());
+    setMode(path, fs::perms::owner_all);
+}
+
+void restrictExistingFile(const std::string &path)
+{
+    std::error_code error;
+    if (fs::exists(path, error))
+        setMode(path, fs::perms::owner_read | fs::perms::owner_write);
 }
 
 FileHandle openPrivateFile(const std::string &path)

@@ -2,19 +2,21 @@
 #include "server/ProfileScripts.h"
 
 #include "server/ProfileStore.h"
+#include "server/SessionStore.h"
 #include "server/UserStore.h"
 
 #include <algorithm>
 #include <cstring>
 
-// Required parameters (the others may be missing or empty, and are stored as empty text):
+// Required parameters (the others may be missing or empty, and are stored as
+// empty text); userid and user_id are the session token that login gave:
 //   savemedical.php          userid, conditionstatus, smokerstatus: the two answers every
 //                            profile has; names, contacts and measures are up to the person
 //   checkmedicaldetails.php  userid (the fixed tail of zeros the app appends is ignored)
 //   checkmedical.php, checksubscription.php, notification.php  userid
 //   feedbacks.php            userid, feedback
 //   locationlogs.php         user_id, txt_lat, txt_log
-// The list scripts answer [] for a well-formed id that has no rows, unknown or not.
+// The list scripts answer [] when there are no rows, and to every refusal.
 
 namespace
 {
@@ -44,77 +46,66 @@ template<typename Row, typename ToRecord> ScriptAnswer listAnswer(const std::vec
 }
 } // namespace
 
-ProfileScripts::ProfileScripts(UserStore &users, ProfileStore &profiles)
-    : m_users(users)
+ProfileScripts::ProfileScripts(SessionStore &sessions, ProfileStore &profiles)
+    : m_sessions(sessions)
     , m_profiles(profiles)
 {
 }
 
 void ProfileScripts::addTo(ScriptRouter &router)
 {
-    router.add("savemedical.php", [this](const Query &query) { return saveMedical(query); });
-    router.add("checkmedicaldetails.php", [this](const Query &query) { return medicalDetails(query); });
-    router.add("checkmedical.php", [this](const Query &query) { return medicalConditions(query); });
-    router.add("checksubscription.php", [this](const Query &query) { return subscriptions(query); });
-    router.add("notification.php", [this](const Query &query) { return notifications(query); });
-    router.add("feedbacks.php", [this](const Query &query) { return feedback(query); });
-    router.add("locationlogs.php", [this](const Query &query) { return locationLog(query); });
+    using Refusal = ScriptRouter::Refusal;
+    router.add("savemedical.php", Refusal::AccountRecord, [this](const ScriptRequest &request) { return saveMedical(request.query); });
+    router.add("checkmedicaldetails.php", Refusal::EmptyList, [this](const ScriptRequest &request) { return medicalDetails(request.query); });
+    router.add("checkmedical.php", Refusal::EmptyList, [this](const ScriptRequest &request) { return medicalConditions(request.query); });
+    router.add("checksubscription.php", Refusal::EmptyList, [this](const ScriptRequest &request) { return subscriptions(request.query); });
+    router.add("notification.php", Refusal::EmptyList, [this](const ScriptRequest &request) { return notifications(request.query); });
+    router.add("feedbacks.php", Refusal::AccountRecord, [this](const ScriptRequest &request) { return feedback(request.query); });
+    router.add("locationlogs.php", Refusal::AccountRecord, [this](const ScriptRequest &request) { return locationLog(request.query); });
 }
+
+// The answers to writes name no user: the app reads only their scode and message.
 
 ScriptAnswer ProfileScripts::saveMedical(const Query &query)
 {
-    const std::int64_t userId = query.userId("userid");
     const MedicalFields fields = readFields(query, medicalFieldNames, { "conditionstatus", "smokerstatus" });
-    const std::optional<User> user = m_users.find(userId);
-    if (!user)
-        return answerWith(unknownUserRecord());
-    m_profiles.saveMedicalProfile(userId, fields);
-    return answerWith(acceptedRecord(*user, "Your medical details have been saved."));
+    m_profiles.saveMedicalProfile(signedInUser(m_sessions, query, "userid"), fields);
+    return answerWith(acceptedRecord(User(), "Your medical details have been saved."));
 }
 
 ScriptAnswer ProfileScripts::medicalDetails(const Query &query)
 {
-    const std::int64_t userId = query.userId("userid");
-    const std::optional<MedicalProfile> profile = m_profiles.medicalProfile(userId);
-    return profile ? answerWith(medicalDetailsRecord(userId, *profile)) : ScriptAnswer();
+    const std::optional<MedicalProfile> profile = m_profiles.medicalProfile(signedInUser(m_sessions, query, "userid"));
+    return profile ? answerWith(medicalDetailsRecord(*profile)) : ScriptAnswer();
 }
 
 ScriptAnswer ProfileScripts::medicalConditions(const Query &query)
 {
     // The profile holds at most one named condition; a profile without a name lists none.
-    const std::optional<MedicalProfile> profile = m_profiles.medicalProfile(query.userId("userid"));
+    const std::optional<MedicalProfile> profile = m_profiles.medicalProfile(signedInUser(m_sessions, query, "userid"));
     return profile && !profile->field("conditionname").empty() ? answerWith(medicalConditionRecord(*profile)) : ScriptAnswer();
 }
 
 ScriptAnswer ProfileScripts::subscriptions(const Query &query)
 {
-    return listAnswer(m_profiles.subscriptions(query.userId("userid")), subscriptionRecord);
+    return listAnswer(m_profiles.subscriptions(signedInUser(m_sessions, query, "userid")), subscriptionRecord);
 }
 
 ScriptAnswer ProfileScripts::notifications(const Query &query)
 {
-    const std::int64_t userId = query.userId("userid");
-    return listAnswer(m_profiles.notifications(userId), [userId](const Notification &row) { return notificationRecord(userId, row); });
+    return listAnswer(m_profiles.notifications(signedInUser(m_sessions, query, "userid")), notificationRecord);
 }
 
 ScriptAnswer ProfileScripts::feedback(const Query &query)
 {
-    const std::int64_t userId = query.userId("userid");
     const std::string text = query.required("feedback");
-    const std::optional<User> user = m_users.find(userId);
-    if (!user)
-        return answerWith(unknownUserRecord());
-    m_profiles.addFeedback(userId, text);
-    return answerWith(acceptedRecord(*user, "Thank you for your feedback."));
+    m_profiles.addFeedback(signedInUser(m_sessions, query, "userid"), text);
+    return answerWith(acceptedRecord(User(), "Thank you for your feedback."));
 }
 
 ScriptAnswer ProfileScripts::locationLog(const Query &query)
 {
     const LocationReadings readings = readFields(query, locationReadingKeys, { "txt_lat", "txt_log" });
-    const std::int64_t userId = query.userId("user_id");
-    const std::optional<User> user = m_users.find(userId);
-    if (!user)
-        return answerWith(unknownUserRecord());
-    m_profiles.addLocationLog(userId, readings);
-    return answerWith(acceptedRecord(*user, "Location logged."));
+    m_profiles.addLocationLog(signedInUser(m_sessions, query, "user_id"), readings);
+    return answerWith(acceptedRecord(User(), "Location logged."));
 }

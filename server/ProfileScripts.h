@@ -3,7 +3,7 @@
 
 #include "server/ScriptRouter.h"
 
-class UserStore;
+class SessionStore;
 class ProfileStore;
 
 // The scripts about what is kept for a signed-in user: the medical profile,
@@ -11,7 +11,7 @@ class ProfileStore;
 class ProfileScripts
 {
 public:
-    ProfileScripts(UserStore &users, ProfileStore &profiles);
+    ProfileScripts(SessionStore &sessions, ProfileStore &profiles);
     void addTo(ScriptRouter &router);
 
 private:
@@ -23,6 +23,6 @@ private:
     ScriptAnswer feedback(const Query &query);
     ScriptAnswer locationLog(const Query &query);
 
-    UserStore &m_users;
+    SessionStore &m_sessions;
     ProfileStore &m_profiles;
 };

@@ -10,6 +10,10 @@
 
 namespace
 {
+// The newest notifications only: enough for the list the app shows, and an
+// answer whose size does not grow with a user's history.
+constexpr std::int64_t notificationsListed = 100;
+
 template<size_t N> void bindFrom(Statement &statement, int firstIndex, const std::array<std::string, N> &values)
 {
     for (size_t i = 0; i < N; ++i)
@@ -75,8 +79,8 @@ std::vector<Subscription> ProfileStore::subscriptions(std::int64_t userId)
 std::vector<Notification> ProfileStore::notifications(std::int64_t userId)
 {
     Database::Session session(m_db);
-    Statement query = session.prepare("SELECT id, topic, message, read, posted FROM notifications WHERE user_id = ?1 ORDER BY id DESC");
-    query.bindAll(userId);
+    Statement query = session.prepare("SELECT id, topic, message, read, posted FROM notifications WHERE user_id = ?1 ORDER BY id DESC LIMIT ?2");
+    query.bindAll(userId, notificationsListed);
     std::vector<Notification> rows;
     while (query.nextRow())
         rows.push_back({ query.integer(0), query.text(1), query.text(2), query.integer(3) != 0, query.text(4) });

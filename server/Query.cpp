@@ -38,14 +38,6 @@ std::int64_t Query::wholeNumber(const char *key) const
     return *number;
 }
 
-std::int64_t Query::userId(const char *key) const
-{
-    const std::optional<std::int64_t> id = parseDecimalInteger(required(key));
-    if (!id || *id <= 0)
-        throw BadInput(std::string("Malformed parameter: ") + key + " must be a user id");
-    return *id;
-}
-
 double Query::coordinate(const char *key, double limit) const
 {
     const std::optional<double> value = parseCoordinate(required(key), limit);

@@ -30,8 +30,6 @@ public:
     std::string optional(const char *key) const;
     // A required whole number: decimal digits only.
     std::int64_t wholeNumber(const char *key) const;
-    // A required row id: a whole number above zero.
-    std::int64_t userId(const char *key) const;
     // A required decimal number within ±limit.
     double coordinate(const char *key, double limit) const;
 

@@ -10,10 +10,9 @@
 
 namespace
 {
-Json loginRecord(const User &user, const std::string &scode, const std::string &message)
+Json loginRecord(const User &user, const std::string &userid, const std::string &scode, const std::string &message)
 {
-    const bool known = user.id > 0;
-    return Json { { "userid", known ? std::to_string(user.id) : std::string() },
+    return Json { { "userid", userid },
                   { "fullname", user.details.fullname },
                   { "phonenumber", user.details.phone },
                   { "emailaddress", user.details.email },
@@ -34,22 +33,22 @@ std::string decimalText(double value, int decimals)
 
 Json acceptedRecord(const User &user, const std::string &message)
 {
-    return loginRecord(user, "1", message);
+    return loginRecord(user, {}, "1", message);
+}
+
+Json sessionRecord(const User &user, const std::string &token, const std::string &message)
+{
+    return loginRecord(user, token, "1", message);
 }
 
 Json refusedRecord(const std::string &message)
 {
-    return loginRecord(User(), "0", message);
+    return loginRecord(User(), {}, "0", message);
 }
 
-Json unknownUserRecord()
+Json medicalDetailsRecord(const MedicalProfile &profile)
 {
-    return refusedRecord("Unknown user.");
-}
-
-Json medicalDetailsRecord(std::int64_t userId, const MedicalProfile &profile)
-{
-    Json record { { "id", std::to_string(profile.id) }, { "userid", std::to_string(userId) } };
+    Json record { { "id", std::to_string(profile.id) }, { "userid", "" } };
     for (size_t i = 0; i < medicalFieldNames.size(); ++i)
         record[medicalFieldNames[i]] = profile.fields[i];
     record["scode"] = "1";
@@ -71,10 +70,10 @@ Json subscriptionRecord(const Subscription &subscription)
     };
 }
 
-Json notificationRecord(std::int64_t userId, const Notification &notification)
+Json notificationRecord(const Notification &notification)
 {
     return Json { { "id", std::to_string(notification.id) },
-                  { "userid", std::to_string(userId) },
+                  { "userid", "" },
                   { "topic", notification.topic },
                   { "message", notification.message },
                   { "readmessage", notification.read ? "1" : "0" },

@@ -16,17 +16,21 @@ struct WeatherReading;
 // always present, also in a refusal, so that any answer decodes.
 using Json = nlohmann::ordered_json;
 
+// No answer carries an account's row id. The "userid" of a record is empty,
+// except in the answer to a login, which carries the new session's token
+// there: the token is a credential, and it is handed out once.
+
 // LoginModel with scode "1".
 Json acceptedRecord(const User &user, const std::string &message);
+// LoginModel with scode "1" and the token of the session a login opened.
+Json sessionRecord(const User &user, const std::string &token, const std::string &message);
 // LoginModel with scode "0" and empty user fields.
 Json refusedRecord(const std::string &message);
-// The refusal for a well-formed user id that has no account.
-Json unknownUserRecord();
 
-Json medicalDetailsRecord(std::int64_t userId, const MedicalProfile &profile); // ProfileMedDetailsModel
+Json medicalDetailsRecord(const MedicalProfile &profile); // ProfileMedDetailsModel
 Json medicalConditionRecord(const MedicalProfile &profile); // ProfileMedModel
 Json subscriptionRecord(const Subscription &subscription); // ProfileSubModel
-Json notificationRecord(std::int64_t userId, const Notification &notification); // NotificationModel
+Json notificationRecord(const Notification &notification); // NotificationModel
 Json airQualityRecord(int usEpaCategory, const Pollutants &pollutants); // AirQualityData
 Json weatherRecord(const WeatherReading &weather); // WeatherData
 

@@ -8,7 +8,7 @@ namespace
 bool isSecretKey(const std::string &encodedKey)
 {
     const std::string key = httplib::detail::decode_url(encodedKey, true);
-    return key == "password" || key == "passcode";
+    return key == "password" || key == "passcode" || key == "appid" || key == "userid" || key == "user_id";
 }
 
 std::string maskedQuery(const std::string &query)

@@ -46,6 +46,10 @@ CREATE TABLE IF NOT EXISTS notifications (
     read INTEGER NOT NULL DEFAULT 0,
     posted TEXT NOT NULL
 );
+-- The list scripts read these by user, newest or oldest first: an index on
+-- user_id alone serves both orders, since SQLite keeps equal keys in id order.
+CREATE INDEX IF NOT EXISTS subscriptions_by_user ON subscriptions (user_id);
+CREATE INDEX IF NOT EXISTS notifications_by_user ON notifications (user_id);
 CREATE TABLE IF NOT EXISTS feedback (
     id INTEGER PRIMARY KEY,
     user_id INTEGER NOT NULL REFERENCES users(id),
@@ -61,6 +65,13 @@ CREATE TABLE IF NOT EXISTS location_logs (
     lat TEXT NOT NULL, lon TEXT NOT NULL, search_lat TEXT NOT NULL, search_lon TEXT NOT NULL,
     logged TEXT NOT NULL
 );
+-- Sessions are found by their token's hash alone; last_used is in Unix seconds.
+CREATE TABLE IF NOT EXISTS sessions (
+    token_hash TEXT PRIMARY KEY,
+    user_id INTEGER NOT NULL REFERENCES users(id),
+    last_used INTEGER NOT NULL
+) WITHOUT ROWID;
+CREATE INDEX IF NOT EXISTS sessions_by_last_use ON sessions (last_used);
 )sql";
 } // namespace
 

@@ -14,9 +14,9 @@ void writeJson(httplib::Response &response, const Json &body)
 }
 } // namespace
 
-void ScriptRouter::add(const std::string &script, ScriptHandler handler)
+void ScriptRouter::add(const std::string &script, Refusal refusal, ScriptHandler handler)
 {
-    m_scripts[script] = std::move(handler);
+    m_scripts[script] = { refusal, std::move(handler) };
 }
 
 void ScriptRouter::refuse(httplib::Response &response, const std::string &message)
@@ -24,7 +24,7 @@ void ScriptRouter::refuse(httplib::Response &response, const std::string &messag
     writeJson(response, Json::array({ refusedRecord(message) }));
 }
 
-void ScriptRouter::serve(const std::string &script, const httplib::Params &params, httplib::Response &response) const
+void ScriptRouter::serve(const std::string &script, const httplib::Request &request, httplib::Response &response) const
 {
     const auto found = m_scripts.find(script);
     if (found == m_scripts.end()) {
@@ -32,15 +32,25 @@ void ScriptRouter::serve(const std::string &script, const httplib::Params &param
         refuse(response, "Unknown script: " + script);
         return;
     }
+    const bool listScript = found->second.refusal == Refusal::EmptyList;
+    const auto refuseWith = [&](const std::string &message) {
+        if (listScript)
+            writeJson(response, Json::array());
+        else
+            refuse(response, message);
+    };
     try {
-        const ScriptAnswer answer = found->second(Query(params));
+        const ScriptAnswer answer = found->second.handler({ Query(request.params), request.remote_addr });
         if (!answer.readingSource.empty())
             response.set_header(readingSourceHeader, answer.readingSource);
         writeJson(response, answer.body);
     } catch (const BadInput &error) {
-        refuse(response, error.what());
+        // An empty list has no place for the reason: the console keeps it.
+        if (listScript)
+            Console::printLine("Refused " + script + ": " + error.what());
+        refuseWith(error.what());
     } catch (const std::exception &error) {
         Console::printLine("Error in " + script + ": " + error.what());
-        refuse(response, "The server could not handle this request. Please try again.");
+        refuseWith("The server could not handle this request. Please try again.");
     }
 }

@@ -21,20 +21,35 @@ inline ScriptAnswer answerWith(Json record)
     return { Json::array({ std::move(record) }), {} };
 }
 
-using ScriptHandler = std::function<ScriptAnswer(const Query &)>;
+struct ScriptRequest {
+    const Query &query;
+    const std::string &clientAddress;
+};
+
+using ScriptHandler = std::function<ScriptAnswer(const ScriptRequest &)>;
 
 // Maps script names ("login.php") to their handlers and turns every outcome
-// into the app's JSON: bad input and failures become a refused LoginModel with
-// status 200, an unknown script the same with status 404. Never a 500.
+// into the app's JSON, with status 200: never a 500. Bad input and failures
+// get the refusal the app can decode for that script, an unknown script a
+// refused LoginModel with status 404.
 class ScriptRouter
 {
 public:
-    void add(const std::string &script, ScriptHandler handler);
-    void serve(const std::string &script, const httplib::Params &params, httplib::Response &response) const;
+    enum class Refusal {
+        AccountRecord, // a refused LoginModel naming the problem
+        EmptyList, // [] for scripts the app decodes as lists of other records; the console names the problem
+    };
+
+    void add(const std::string &script, Refusal refusal, ScriptHandler handler);
+    void serve(const std::string &script, const httplib::Request &request, httplib::Response &response) const;
 
     // The refusal, as a whole answer, for requests that reach no script at all.
     static void refuse(httplib::Response &response, const std::string &message);
 
 private:
-    std::map<std::string, ScriptHandler> m_scripts;
+    struct Script {
+        Refusal refusal;
+        ScriptHandler handler;
+    };
+    std::map<std::string, Script> m_scripts;
 };

@@ -93,5 +93,7 @@ TlsFiles ensureTlsCertificate(const std::string &tlsDir)
     const TlsFiles files { (dir / "cert.pem").lexically_normal().string(), (dir / "key.pem").lexically_normal().string() };
     if (!std::filesystem::exists(files.certificate) || !std::filesystem::exists(files.privateKey))
         writeFiles(files);
+    else
+        restrictExistingFile(files.privateKey);
     return files;
 }

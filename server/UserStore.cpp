@@ -4,6 +4,8 @@
 #include "server/Database.h"
 #include "server/UtcTime.h"
 
+#include <stdexcept>
+
 namespace
 {
 constexpr const char *userColumns = "SELECT id, fullname, phone, email, dateofbirth, gender, registered, password_hash FROM users ";
@@ -53,14 +55,6 @@ std::optional<User> UserStore::create(const UserDetails &details, const std::str
     return user;
 }
 
-std::optional<User> UserStore::find(std::int64_t id)
-{
-    Database::Session session(m_db);
-    Statement query = session.prepare((std::string(userColumns) + "WHERE id = ?1").c_str());
-    query.bindAll(id);
-    return query.nextRow() ? std::optional<User>(readUser(query)) : std::nullopt;
-}
-
 std::optional<UserStore::Credentials> UserStore::credentials(const std::string &email)
 {
     Database::Session session(m_db);
@@ -76,13 +70,16 @@ bool UserStore::setPasswordHash(const std::string &email, const std::string &pas
     return session.changes() > 0;
 }
 
-UserStore::UpdateResult UserStore::update(std::int64_t id, const UserDetails &details)
+std::optional<User> UserStore::update(std::int64_t id, const UserDetails &details)
 {
     Database::Session session(m_db);
     if (emailTaken(session, details.email, id))
-        return UpdateResult::EmailTaken;
+        return std::nullopt;
     session.prepare("UPDATE users SET fullname = ?1, phone = ?2, email = ?3, dateofbirth = ?4, gender = ?5 WHERE id = ?6")
         .bindAll(details.fullname, details.phone, details.email, details.dateOfBirth, details.gender, id)
         .run();
-    return session.changes() > 0 ? UpdateResult::Updated : UpdateResult::UnknownUser;
+    Statement query = session.prepare((std::string(userColumns) + "WHERE id = ?1").c_str());
+    if (!query.bindAll(id).nextRow())
+        throw std::runtime_error("no account has id " + std::to_string(id));
+    return readUser(query);
 }

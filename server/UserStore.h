@@ -30,7 +30,6 @@ public:
     // A new account with a free subscription and a welcome notification, or
     // nothing when the address is taken (in any letter case).
     std::optional<User> create(const UserDetails &details, const std::string &passwordHash);
-    std::optional<User> find(std::int64_t id);
 
     struct Credentials {
         User user;
@@ -41,8 +40,9 @@ public:
     // False when no account has this address.
     bool setPasswordHash(const std::string &email, const std::string &passwordHash);
 
-    enum class UpdateResult { Updated, UnknownUser, EmailTaken };
-    UpdateResult update(std::int64_t id, const UserDetails &details);
+    // The account as it now is, or nothing when another account has the
+    // address. Throws for an id without an account, which no session names.
+    std::optional<User> update(std::int64_t id, const UserDetails &details);
 
 private:
     Database &m_db;

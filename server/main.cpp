@@ -6,11 +6,13 @@
 #include "server/EnvironmentScripts.h"
 #include "server/HistoryService.h"
 #include "server/Listeners.h"
+#include "server/LoginThrottle.h"
 #include "server/Options.h"
 #include "server/PrivateFiles.h"
 #include "server/ProfileScripts.h"
 #include "server/ProfileStore.h"
 #include "server/Schema.h"
+#include "server/SessionStore.h"
 #include "server/TlsCertificate.h"
 #include "server/UserStore.h"
 
@@ -21,6 +23,7 @@
 #include <cstdlib>
 #include <iostream>
 #include <pthread.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace
@@ -51,12 +54,15 @@ int serve(const Options &options, const sigset_t &signals)
     createSchema(db);
     UserStore users(db);
     ProfileStore profiles(db);
+    SessionStore sessions(db);
+    LoginThrottle throttle(std::chrono::seconds(options.throttleDelay));
     DemoAccount::ensure(users);
 
     std::optional<OpenWeatherClient> upstream = upstreamFromEnvironment();
     const bool simulated = !upstream;
-    AccountScripts accountScripts(users);
-    ProfileScripts profileScripts(users, profiles);
+    AccountScripts accountScripts(users, sessions, throttle,
+                                  options.printResetPasswords ? AccountScripts::ResetPasswords::Printed : AccountScripts::ResetPasswords::Hidden);
+    ProfileScripts profileScripts(sessions, profiles);
     EnvironmentScripts environmentScripts(std::move(upstream));
     ScriptRouter router;
     accountScripts.addTo(router);
@@ -101,6 +107,9 @@ int main(int argc, char **argv)
         std::cerr << "tarnelo-devserver: libsodium could not start\n";
         return 1;
     }
+    // Everything the server writes (the database and its companions, the TLS
+    // key) is its owner's alone, whatever the shell's umask.
+    umask(077);
     // A client that hangs up mid-answer must not kill the server through a write.
     std::signal(SIGPIPE, SIG_IGN);
     // Blocked before any thread starts, so that every thread inherits the mask

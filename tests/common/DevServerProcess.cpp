@@ -2,6 +2,7 @@
 #include "common/DevServerProcess.h"
 
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QRegularExpression>
 
 namespace
@@ -10,7 +11,7 @@ const QRegularExpression readyLine(QStringLiteral("^Tarnelo development backend 
 const QRegularExpression demoLine(QStringLiteral("^Demo account: (\\S+) / (\\S+)$"));
 } // namespace
 
-DevServerProcess::DevServerProcess(const QString &dataDir)
+DevServerProcess::DevServerProcess(const QString &dataDir, const QStringList &options)
     : m_ownDir(dataDir.isEmpty() ? std::make_unique<QTemporaryDir>() : nullptr)
     , m_dataDir(m_ownDir ? m_ownDir->path() : dataDir)
 {
@@ -20,8 +21,9 @@ DevServerProcess::DevServerProcess(const QString &dataDir)
     m_process.setProcessEnvironment(environment);
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QStringLiteral(TARNELO_DEVSERVER),
-                    { QStringLiteral("--data"), m_dataDir, QStringLiteral("--https-port"), QStringLiteral("0"), QStringLiteral("--http-port"),
-                      QStringLiteral("0"), QStringLiteral("--history-key"), historyKey() });
+                    QStringList { QStringLiteral("--data"), m_dataDir, QStringLiteral("--https-port"), QStringLiteral("0"), QStringLiteral("--http-port"),
+                                  QStringLiteral("0"), QStringLiteral("--history-key"), historyKey() }
+                        + options);
     if (!m_process.waitForStarted(5000))
         return;
     // The demo line follows the ready line: wait for both.
@@ -95,6 +97,16 @@ QString DevServerProcess::waitForConsoleLine(const QString &text, int timeoutMs)
                 return line;
     } while (!deadline.hasExpired());
     return QString();
+}
+
+qint64 DevServerProcess::peakMemoryKiB() const
+{
+    QFile status(QStringLiteral("/proc/%1/status").arg(m_process.processId()));
+    if (!status.open(QIODevice::ReadOnly))
+        return -1;
+    const QRegularExpressionMatch peak
+        = QRegularExpression(QStringLiteral("^VmHWM:\\s+(\\d+) kB$"), QRegularExpression::MultilineOption).match(QString::fromLatin1(status.readAll()));
+    return peak.hasMatch() ? peak.captured(1).toLongLong() : -1;
 }
 
 int DevServerProcess::stop()

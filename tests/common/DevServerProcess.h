@@ -22,7 +22,9 @@ class DevServerProcess
 public:
     // dataDir empty: a fresh temporary directory, removed afterwards. Give the
     // dataDir() of an earlier server to start again on its accounts and certificate.
-    explicit DevServerProcess(const QString &dataDir = QString());
+    // options are added to the command line; by default the one that prints
+    // reset passwords, which tests read from the console.
+    explicit DevServerProcess(const QString &dataDir = QString(), const QStringList &options = { QStringLiteral("--print-reset-passwords") });
     ~DevServerProcess();
     DevServerProcess(const DevServerProcess &) = delete;
     DevServerProcess &operator=(const DevServerProcess &) = delete;
@@ -43,6 +45,9 @@ public:
     // The first printed line containing text, waiting up to timeoutMs for it;
     // empty if none came. A request's line comes just after its answer.
     QString waitForConsoleLine(const QString &text, int timeoutMs = 5000);
+
+    // The server's peak resident memory so far, in KiB (VmHWM), or -1.
+    qint64 peakMemoryKiB() const;
 
     // Sends SIGTERM and waits; the exit code, or -1 if the server crashed or hung.
     int stop();

@@ -23,9 +23,12 @@ nlohmann::json Answer::first() const
     return body.is_array() && !body.empty() ? body.front() : nlohmann::json();
 }
 
-BackendClient::BackendClient(const DevServerProcess &server)
+BackendClient::BackendClient(const DevServerProcess &server, const std::string &sourceAddress)
     : m_client("127.0.0.1", server.httpsPort())
 {
+    // httplib binds to an address given as the interface's name.
+    if (!sourceAddress.empty())
+        m_client.set_interface(sourceAddress);
     m_client.set_ca_cert_path(server.caFile().toStdString());
     m_client.enable_server_certificate_verification(true);
     m_client.set_read_timeout(30);

@@ -20,11 +20,12 @@ struct Answer {
 };
 
 // Asks the backend's scripts as the app does: over HTTPS, trusting only the
-// server's own certificate, and checking that it names 127.0.0.1.
+// server's own certificate, and checking that it names 127.0.0.1. A source
+// address (any of 127.0.0.0/8) makes it another client in the server's eyes.
 class BackendClient
 {
 public:
-    explicit BackendClient(const DevServerProcess &server);
+    explicit BackendClient(const DevServerProcess &server, const std::string &sourceAddress = {});
 
     Answer script(const std::string &name, const httplib::Params &params);
     // A path and query sent exactly as written, for malformed requests.
