@@ -2,6 +2,8 @@
 #include "service/HttpGet.h"
 
 #include "service/NetworkSession.h"
+#include "service/ReplyGuard.h"
+#include "service/ServiceConfig.h"
 
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
@@ -17,12 +19,17 @@ bool arrived(const QNetworkReply &reply)
 }
 } // namespace
 
-void httpGet(const QUrl &url, const QObject *context, std::function<void(const HttpAnswer &)> done)
+void httpGet(const QUrl &url, const QObject *context, std::function<void(const HttpAnswer &)> done, qint64 bodyLimit)
 {
-    QNetworkReply *reply = sharedNetworkSession().get(QNetworkRequest(url));
-    QObject::connect(reply, &QNetworkReply::finished, context, [reply, done = std::move(done)] {
+    QNetworkRequest request(url);
+    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+    QNetworkReply *reply = sharedNetworkSession().get(request);
+    const auto *guard = new ReplyGuard(reply, bodyLimit, ServiceConfig::requestDeadline());
+    QObject::connect(reply, &QNetworkReply::finished, context, [reply, guard, done = std::move(done)] {
         HttpAnswer answer;
-        if (arrived(*reply))
+        if (!guard->breach().isNull())
+            answer.error = guard->breach();
+        else if (arrived(*reply))
             answer.body = reply->readAll();
         else
             answer.error = reply->errorString();

@@ -11,7 +11,8 @@ class QUrl;
 
 // What came back for a GET: the body of whatever HTTP answer arrived, whatever
 // its status (an error page is data to decode like any other), or the
-// description of the transport failure when no answer arrived at all.
+// description of the transport failure when no answer arrived at all. A
+// request that broke one of the rules ReplyGuard enforces is such a failure.
 struct HttpAnswer {
     QByteArray body;
     QString error;
@@ -19,6 +20,10 @@ struct HttpAnswer {
     bool received() const { return error.isNull(); }
 };
 
-// Sends a GET without a body on the shared session. `done` runs on the main
+// The backend's answers are a few kilobytes; anything near this is not one.
+constexpr qint64 backendAnswerLimit = 2 * 1024 * 1024;
+
+// Sends a GET without a body on the shared session, with a body of at most
+// `bodyLimit` bytes and the configured deadline. `done` runs on the main
 // thread, unless `context` was destroyed first, in which case nothing runs.
-void httpGet(const QUrl &url, const QObject *context, std::function<void(const HttpAnswer &)> done);
+void httpGet(const QUrl &url, const QObject *context, std::function<void(const HttpAnswer &)> done, qint64 bodyLimit = backendAnswerLimit);

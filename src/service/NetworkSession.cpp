@@ -31,7 +31,9 @@ QNetworkAccessManager *makeSession()
 {
     trustExtraAuthorities();
     auto *session = new QNetworkAccessManager(QCoreApplication::instance());
-    session->setRedirectPolicy(QNetworkRequest::NoLessSafeRedirectPolicy);
+    // An idle time-out that every byte restarts; httpGet adds an overall
+    // deadline, and decides on each redirect, which Qt 5 does not follow
+    // unless told.
     session->setTransferTimeout(60 * 1000);
     return session;
 }

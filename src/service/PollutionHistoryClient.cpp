@@ -15,6 +15,8 @@
 namespace
 {
 constexpr double sevenDays = 604800;
+// A week of hourly entries is some 40 kB; far more is no history answer.
+constexpr qint64 historyAnswerLimit = 5 * 1024 * 1024;
 
 double clockSeconds()
 {
@@ -60,7 +62,7 @@ void PollutionHistoryClient::fetchHistory(const QString &latitude, const QString
     const QUrl url = requestUrl(*text);
     if (url.isEmpty())
         return;
-    httpGet(url, this, [this](const HttpAnswer &answer) {
+    const auto publish = [this](const HttpAnswer &answer) {
         if (!answer.received()) {
             qCWarning(lcService) << "History not received:" << answer.error;
             return;
@@ -71,5 +73,6 @@ void PollutionHistoryClient::fetchHistory(const QString &latitude, const QString
             return;
         }
         Q_EMIT entriesReceived(decoded.value->list);
-    });
+    };
+    httpGet(url, this, publish, historyAnswerLimit);
 }

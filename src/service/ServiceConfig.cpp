@@ -36,3 +36,10 @@ QString ServiceConfig::extraCaFile()
 {
     return qEnvironmentVariable("TARNELO_CA_FILE");
 }
+
+std::chrono::seconds ServiceConfig::requestDeadline()
+{
+    bool valid = false;
+    const int seconds = qEnvironmentVariableIntValue("TARNELO_REQUEST_DEADLINE", &valid);
+    return std::chrono::seconds(valid && seconds > 0 ? seconds : TARNELO_DEFAULT_REQUEST_DEADLINE);
+}

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <chrono>
+
 // Where the services are and how to reach them. Each value is fixed when the
 // app is built; an environment variable of the same name replaces it, so that
 // development runs and tests can point the app at a local backend.
@@ -16,4 +18,7 @@ QString historyHost();
 QString historyKey();
 // A PEM file of extra certificate authorities to trust, or empty (TARNELO_CA_FILE).
 QString extraCaFile();
+// How long a request may take in all, answer included, before it is
+// abandoned (TARNELO_REQUEST_DEADLINE, whole seconds).
+std::chrono::seconds requestDeadline();
 } // namespace ServiceConfig

@@ -1,0 +1,148 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: GPL-3.0-or-later
+"""HTTPS servers on loopback that misbehave the ways a real network can.
+
+The first path segment picks the behaviour, so a test points the app's
+backend address at https://127.0.0.1:PORT/<behaviour> and every script the
+app sends gets that behaviour:
+
+  ok        200 and "[]"
+  hop       302 to the same path under /ok on this host
+  away      302 to the same path on the other host, 127.0.0.2
+  trickle   announces 1000 bytes, then sends one every half second
+  stall     reads the request and never answers
+  cut       announces 1000 bytes, sends 100, then ends the TCP stream
+            without a TLS close_notify
+  big       announces and sends 50 MiB
+  chunked   sends 50 MiB in chunks, the size unannounced
+
+The other host answers "[]" to anything and prints "other-host <target>" for
+each request that reaches it. Both use a throwaway certificate, made with
+openssl, valid for both addresses. Once both listen, one line goes to
+standard output: "ready <port> <other-port> <certificate file>". The servers
+stop when standard input closes, so they never outlive their test.
+"""
+
+import http.server
+import os
+import socket
+import ssl
+import subprocess
+import sys
+import tempfile
+import threading
+import time
+
+BLOCK = b" " * 65536
+BLOCKS_IN_BIG_BODY = 800  # 50 MiB
+
+
+def make_certificate(directory):
+    cert = os.path.join(directory, "cert.pem")
+    key = os.path.join(directory, "key.pem")
+    subprocess.run(
+        ["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days", "1",
+         "-subj", "/CN=127.0.0.1", "-addext", "subjectAltName=IP:127.0.0.1,IP:127.0.0.2", "-keyout", key, "-out", cert],
+        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    return cert, key
+
+
+class Handler(http.server.BaseHTTPRequestHandler):
+    protocol_version = "HTTP/1.1"
+
+    def log_message(self, *args):
+        pass
+
+    def start_answer(self, status=200, headers=()):
+        self.send_response(status)
+        for name, value in headers:
+            self.send_header(name, value)
+        self.end_headers()
+
+    def send_empty_list(self):
+        self.start_answer(headers=[("Content-Type", "application/json"), ("Content-Length", "2")])
+        self.wfile.write(b"[]")
+
+
+class FaultHandler(Handler):
+    other_port = 0
+
+    def do_GET(self):
+        behaviour, _, rest = self.path.lstrip("/").partition("/")
+        try:
+            getattr(self, "answer_" + behaviour, self.answer_unknown)(rest)
+        except OSError:
+            # The client gave up, which is what these answers are for.
+            self.close_connection = True
+
+    def answer_unknown(self, _rest):
+        self.start_answer(404, [("Content-Length", "0")])
+
+    def answer_ok(self, _rest):
+        self.send_empty_list()
+
+    def answer_hop(self, rest):
+        self.start_answer(302, [("Location", "/ok/" + rest), ("Content-Length", "0")])
+
+    def answer_away(self, rest):
+        self.start_answer(302, [("Location", "https://127.0.0.2:%d/away/%s" % (self.other_port, rest)), ("Content-Length", "0")])
+
+    def answer_trickle(self, _rest):
+        self.close_connection = True
+        self.start_answer(headers=[("Content-Length", "1000")])
+        while True:
+            self.wfile.write(b" ")
+            time.sleep(0.5)
+
+    def answer_stall(self, _rest):
+        self.close_connection = True
+        while self.connection.recv(1):
+            pass
+
+    def answer_cut(self, _rest):
+        self.close_connection = True
+        self.start_answer(headers=[("Content-Length", "1000")])
+        self.wfile.write(b"[" + b" " * 99)
+        # An SSL socket shut down this way sends a FIN and no close_notify.
+        self.connection.shutdown(socket.SHUT_WR)
+
+    def answer_big(self, _rest):
+        self.start_answer(headers=[("Content-Length", str(BLOCKS_IN_BIG_BODY * len(BLOCK)))])
+        for _ in range(BLOCKS_IN_BIG_BODY):
+            self.wfile.write(BLOCK)
+
+    def answer_chunked(self, _rest):
+        self.start_answer(headers=[("Transfer-Encoding", "chunked")])
+        chunk = b"%x\r\n%s\r\n" % (len(BLOCK), BLOCK)
+        for _ in range(BLOCKS_IN_BIG_BODY):
+            self.wfile.write(chunk)
+        self.wfile.write(b"0\r\n\r\n")
+
+
+class OtherHostHandler(Handler):
+    def do_GET(self):
+        print("other-host", self.path, flush=True)
+        self.send_empty_list()
+
+
+def serve(address, handler, cert, key):
+    server = http.server.ThreadingHTTPServer((address, 0), handler)
+    server.daemon_threads = True
+    context = ssl.SSLContext(ssl.PROTOCOL_TLS_SERVER)
+    context.load_cert_chain(cert, key)
+    server.socket = context.wrap_socket(server.socket, server_side=True)
+    threading.Thread(target=server.serve_forever, daemon=True).start()
+    return server.server_address[1]
+
+
+def main():
+    with tempfile.TemporaryDirectory() as directory:
+        cert, key = make_certificate(directory)
+        FaultHandler.other_port = serve("127.0.0.2", OtherHostHandler, cert, key)
+        port = serve("127.0.0.1", FaultHandler, cert, key)
+        print("ready", port, FaultHandler.other_port, cert, flush=True)
+        sys.stdin.read()
+
+
+if __name__ == "__main__":
+    main()
