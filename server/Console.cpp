@@ -4,14 +4,12 @@
 #include <cstdio>
 #include <mutex>
 
-void Console::printLine(const std::string &line)
+std::string Console::percentEscaped(const std::string &text, bool (*keep)(unsigned char byte))
 {
-    // Lines may carry text from requests: a control character could forge a
-    // line or rewrite the terminal, so each is shown as %XX instead.
     std::string shown;
-    for (const char c : line) {
+    for (const char c : text) {
         const auto byte = static_cast<unsigned char>(c);
-        if (byte >= 0x20 && byte != 0x7f) {
+        if (keep(byte)) {
             shown += c;
         } else {
             char escaped[4];
@@ -19,6 +17,14 @@ void Console::printLine(const std::string &line)
             shown += escaped;
         }
     }
+    return shown;
+}
+
+void Console::printLine(const std::string &line)
+{
+    // Lines may carry text from requests: a control character could forge a
+    // line or rewrite the terminal.
+    const std::string shown = percentEscaped(line, [](unsigned char byte) { return byte >= 0x20 && byte != 0x7f; });
     static std::mutex mutex;
     const std::lock_guard<std::mutex> lock(mutex);
     std::fwrite(shown.data(), 1, shown.size(), stdout);

@@ -9,4 +9,8 @@ namespace Console
 // characters in it escaped. Request threads print concurrently, and scripts
 // read these lines, so lines must never interleave.
 void printLine(const std::string &line);
+
+// The text with each byte that keep() refuses written as %XX, so that text
+// from a request cannot forge a line or reach the terminal as a command.
+std::string percentEscaped(const std::string &text, bool (*keep)(unsigned char byte));
 } // namespace Console

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/RequestLog.h"
 
-#include <cstdio>
+#include "server/Console.h"
 
 namespace
 {
@@ -26,20 +26,11 @@ std::string maskedQuery(const std::string &query)
     return masked;
 }
 
+// Printable ASCII only, spaces included in what is escaped, so that the
+// target reads as one word however it was sent.
 std::string printable(const std::string &text)
 {
-    std::string out;
-    for (const char c : text) {
-        const auto byte = static_cast<unsigned char>(c);
-        if (byte > 0x20 && byte < 0x7f) {
-            out += c;
-        } else {
-            char escaped[4];
-            std::snprintf(escaped, sizeof escaped, "%%%02X", byte);
-            out += escaped;
-        }
-    }
-    return out;
+    return Console::percentEscaped(text, [](unsigned char byte) { return byte > 0x20 && byte < 0x7f; });
 }
 } // namespace
 
