@@ -1,47 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/EnvironmentScripts.h"
 
-#include "server/AirSimulation.h"
-#include "server/Console.h"
-
-#include <ctime>
+#include "server/ReadingSources.h"
+#include "server/Records.h"
 
 // Both scripts require lat (within ±90) and lon (within ±180) as decimal numbers.
 
-namespace
-{
-struct Position {
-    double lat, lon;
-};
-
-Position position(const Query &query)
-{
-    return { query.coordinate("lat", 90), query.coordinate("lon", 180) };
-}
-
-// The upstream reading when there is an upstream and it answers; the simulated one otherwise.
-template<typename Reading, typename Fetch>
-ScriptAnswer answerFrom(const std::optional<OpenWeatherClient> &upstream, const char *what, Reading simulated, Fetch fetch, Json (*toRecord)(const Reading &))
-{
-    if (!upstream)
-        return { Json::array({ toRecord(simulated) }), "simulated" };
-    try {
-        return { Json::array({ toRecord(fetch(*upstream, simulated)) }), "openweathermap" };
-    } catch (const std::exception &error) {
-        Console::printLine(std::string("OpenWeatherMap ") + what + " failed (" + error.what() + "): answering with simulated values.");
-        return { Json::array({ toRecord(simulated) }), "simulated, upstream failed" };
-    }
-}
-
-Json airQualityFrom(const Pollutants &pollutants)
-{
-    const Pollutants sent = roundedToHundredths(pollutants);
-    return airQualityRecord(usEpaCategory(sent), sent);
-}
-} // namespace
-
-EnvironmentScripts::EnvironmentScripts(std::optional<OpenWeatherClient> upstream)
-    : m_upstream(std::move(upstream))
+EnvironmentScripts::EnvironmentScripts(ReadingSources &sources)
+    : m_sources(sources)
 {
 }
 
@@ -54,14 +20,14 @@ void EnvironmentScripts::addTo(ScriptRouter &router)
 
 ScriptAnswer EnvironmentScripts::airQuality(const Query &query) const
 {
-    const Position at = position(query);
-    const auto fetch = [at](const OpenWeatherClient &client, const Pollutants &) { return client.currentAir(at.lat, at.lon); };
-    return answerFrom(m_upstream, "air pollution", simulatedAir(at.lat, at.lon, std::time(nullptr)), fetch, airQualityFrom);
+    const double lat = query.coordinate("lat", 90), lon = query.coordinate("lon", 180);
+    const Sourced<AirReading> air = m_sources.air(lat, lon);
+    return { Json::array({ airQualityRecord(air.reading) }), air.source };
 }
 
 ScriptAnswer EnvironmentScripts::weather(const Query &query) const
 {
-    const Position at = position(query);
-    const auto fetch = [at](const OpenWeatherClient &client, const WeatherReading &simulated) { return client.currentWeather(at.lat, at.lon, simulated); };
-    return answerFrom(m_upstream, "weather", simulatedWeather(at.lat, at.lon, std::time(nullptr)), fetch, weatherRecord);
+    const double lat = query.coordinate("lat", 90), lon = query.coordinate("lon", 180);
+    const Sourced<WeatherReading> weather = m_sources.weather(lat, lon);
+    return { Json::array({ weatherRecord(weather.reading) }), weather.source };
 }

@@ -1,22 +1,20 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "server/OpenWeatherClient.h"
 #include "server/ScriptRouter.h"
 
-#include <optional>
+class ReadingSources;
 
-// airquality and weatherapi: real readings when an OpenWeatherMap key is
-// configured, the simulation otherwise or when the service fails.
+// airquality and weatherapi: the readings of the first source that gives them.
 class EnvironmentScripts
 {
 public:
-    explicit EnvironmentScripts(std::optional<OpenWeatherClient> upstream);
+    explicit EnvironmentScripts(ReadingSources &sources);
     void addTo(ScriptRouter &router);
 
 private:
     ScriptAnswer airQuality(const Query &query) const;
     ScriptAnswer weather(const Query &query) const;
 
-    std::optional<OpenWeatherClient> m_upstream;
+    ReadingSources &m_sources;
 };

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/HistoryService.h"
 
-#include "server/AirSimulation.h"
 #include "server/Query.h"
+#include "server/ReadingSources.h"
 #include "server/Records.h"
 #include "server/RequestLog.h"
 
@@ -10,24 +10,34 @@
 
 namespace
 {
-constexpr std::int64_t hour = 3600;
-constexpr std::int64_t longestRange = 365 * 24 * hour;
+constexpr std::int64_t longestRange = 365 * 24 * 3600;
 constexpr std::int64_t lastSecondOf9999 = 253402300799;
 
-Json entry(double lat, double lon, std::int64_t time)
+Json number(const std::optional<double> &value)
 {
-    const Pollutants p = simulatedAir(lat, lon, static_cast<std::time_t>(time));
-    return {
-        { "main", { { "aqi", openWeatherIndex(p) } } },
-        { "components",
-          { { "co", p.co }, { "no", p.no }, { "no2", p.no2 }, { "o3", p.o3 }, { "so2", p.so2 }, { "pm2_5", p.pm25 }, { "pm10", p.pm10 }, { "nh3", p.nh3 } } },
-        { "dt", time }
-    };
+    return value ? Json(*value) : Json();
+}
+
+Json entry(const HourOfAir &hour)
+{
+    const Concentrations &c = hour.concentrations;
+    return { { "main", { { "aqi", hour.openWeatherIndex } } },
+             { "components",
+               { { "co", number(c.co) },
+                 { "no", number(c.no) },
+                 { "no2", number(c.no2) },
+                 { "o3", number(c.o3) },
+                 { "so2", number(c.so2) },
+                 { "pm2_5", number(c.pm25) },
+                 { "pm10", number(c.pm10) },
+                 { "nh3", number(c.nh3) } } },
+             { "dt", hour.time } };
 }
 } // namespace
 
-HistoryService::HistoryService(std::string apiKey)
+HistoryService::HistoryService(std::string apiKey, ReadingSources &sources)
     : m_apiKey(std::move(apiKey))
+    , m_sources(sources)
 {
 }
 
@@ -57,11 +67,12 @@ void HistoryService::answer(const httplib::Request &request, httplib::Response &
             throw BadInput("end must not be before start");
         if (end - start > longestRange)
             throw BadInput("The range from start to end must not exceed one year");
+        const Sourced<std::vector<HourOfAir>> hours = m_sources.history(lat, lon, start, end);
         Json list = Json::array();
-        for (std::int64_t time = (start + hour - 1) / hour * hour; time <= end; time += hour)
-            list.push_back(entry(lat, lon, time));
+        for (const HourOfAir &hour : hours.reading)
+            list.push_back(entry(hour));
         const Json body { { "coord", { { "lon", lon }, { "lat", lat } } }, { "list", std::move(list) } };
-        response.set_header(readingSourceHeader, "simulated");
+        response.set_header(readingSourceHeader, hours.source);
         response.set_content(body.dump(), "application/json");
     } catch (const BadInput &error) {
         refuse(response, 400, error.what());

@@ -5,14 +5,17 @@
 
 #include <string>
 
+class ReadingSources;
+
 // A stand-in for OpenWeatherMap's air pollution history
 // (GET /data/2.5/air_pollution/history?lat&lon&start&end&appid), answering in
-// that service's shape, numbers and all, from the simulation: one entry per
-// whole hour t with start <= t <= end, at most one year apart.
+// that service's shape, numbers and all: one entry per whole hour t with
+// start <= t <= end, at most one year apart, from the first source that has
+// those hours (a concentration the source lacks is null).
 class HistoryService
 {
 public:
-    explicit HistoryService(std::string apiKey);
+    HistoryService(std::string apiKey, ReadingSources &sources);
     void answer(const httplib::Request &request, httplib::Response &response) const;
 
     // That service's error shape, {"cod": "<status>", "message": ...}.
@@ -20,4 +23,5 @@ public:
 
 private:
     std::string m_apiKey;
+    ReadingSources &m_sources;
 };

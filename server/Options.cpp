@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/Options.h"
 
+#include <algorithm>
 #include <charconv>
 #include <functional>
 #include <iostream>
@@ -18,6 +19,32 @@ bool parseWhole(const std::string &text, int lowest, int highest, int &number)
     return true;
 }
 
+// "a,b,simulated": known upstream names, optionally ending with the simulation, which always comes last.
+bool parseUpstreams(const std::string &text, std::vector<std::string> &upstreams)
+{
+    std::vector<std::string> names;
+    for (size_t start = 0; start <= text.size();) {
+        const size_t comma = std::min(text.find(',', start), text.size());
+        names.push_back(text.substr(start, comma - start));
+        start = comma + 1;
+    }
+    if (names.back() == "simulated")
+        names.pop_back();
+    for (const std::string &name : names)
+        if (name != "open-meteo" && name != "openweathermap")
+            return false;
+    upstreams = names;
+    return true;
+}
+
+bool parseBaseUrl(const std::string &text, std::string &url)
+{
+    if (text.rfind("https://", 0) != 0 && text.rfind("http://", 0) != 0)
+        return false;
+    url = text;
+    return true;
+}
+
 std::optional<Options> fail(const std::string &problem)
 {
     std::cerr << problem << '\n' << usageText();
@@ -28,14 +55,24 @@ std::optional<Options> fail(const std::string &problem)
 std::string usageText()
 {
     return "Usage: tarnelo-devserver [--data DIR] [--host ADDRESS] [--https-port N] [--http-port N] [--history-key KEY]\n"
-           "                         [--throttle-delay SECONDS] [--print-reset-passwords]\n"
+           "                         [--throttle-delay SECONDS] [--print-reset-passwords] [--sources LIST]\n"
+           "                         [--open-meteo-air-url URL] [--open-meteo-weather-url URL]\n"
+           "                         [--upstream-deadline MS] [--upstream-retry SECONDS]\n"
            "Defaults: --data ./devserver-data --host 127.0.0.1 --https-port 8443 --http-port 8080\n"
            "          --history-key 0123456789abcdef0123456789abcdef. Port 0 lets the system choose.\n"
            "After five failed logins for an address or from a client, each further try waits\n"
            "--throttle-delay seconds (default 30), doubling with each failure, at most 15 minutes.\n"
            "--print-reset-passwords shows each reset password on the console; by default only\n"
            "the reset itself is shown.\n"
-           "With OPENWEATHERMAP_API_KEY set, air quality and weather come from OpenWeatherMap.\n";
+           "Air quality, weather and history come from the first of --sources (default\n"
+           "open-meteo,openweathermap,simulated) that answers; openweathermap only with\n"
+           "OPENWEATHERMAP_API_KEY set, and the simulation whenever no upstream answers.\n"
+           "--sources simulated keeps the backend off the network. Each upstream call ends\n"
+           "within --upstream-deadline milliseconds (default and most 5000); a failed\n"
+           "upstream is left alone for --upstream-retry seconds (default 60).\n"
+           "--open-meteo-air-url and --open-meteo-weather-url (defaults\n"
+           "https://air-quality-api.open-meteo.com and https://api.open-meteo.com) point\n"
+           "the Open-Meteo calls elsewhere, for example at a stand-in on loopback.\n";
 }
 
 std::optional<Options> parseOptions(const std::vector<std::string> &args)
@@ -48,6 +85,11 @@ std::optional<Options> parseOptions(const std::vector<std::string> &args)
         { "--https-port", [&](const std::string &value) { return parseWhole(value, 0, 65535, options.httpsPort); } },
         { "--http-port", [&](const std::string &value) { return parseWhole(value, 0, 65535, options.httpPort); } },
         { "--throttle-delay", [&](const std::string &value) { return parseWhole(value, 1, 3600, options.throttleDelay); } },
+        { "--sources", [&](const std::string &value) { return parseUpstreams(value, options.upstreams); } },
+        { "--open-meteo-air-url", [&](const std::string &value) { return parseBaseUrl(value, options.openMeteoAirUrl); } },
+        { "--open-meteo-weather-url", [&](const std::string &value) { return parseBaseUrl(value, options.openMeteoWeatherUrl); } },
+        { "--upstream-deadline", [&](const std::string &value) { return parseWhole(value, 1, 5000, options.upstreamDeadlineMs); } },
+        { "--upstream-retry", [&](const std::string &value) { return parseWhole(value, 1, 3600, options.upstreamRetrySeconds); } },
     };
     for (size_t i = 0; i < args.size(); ++i) {
         if (args[i] == "--print-reset-passwords") {

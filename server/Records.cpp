@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/Records.h"
 
-#include "server/AqiScale.h"
 #include "server/ProfileStore.h"
+#include "server/Readings.h"
 #include "server/UserStore.h"
-#include "server/WeatherSimulation.h"
 
 #include <cstdio>
 
@@ -21,6 +20,13 @@ Json loginRecord(const User &user, const std::string &userid, const std::string 
                   { "registerdate", user.registered },
                   { "scode", scode },
                   { "messageresponse", message } };
+}
+// What a record says where its source gave no value.
+constexpr const char *unknownValue = "–";
+
+std::string valueText(const std::optional<double> &value, int decimals)
+{
+    return value ? decimalText(*value, decimals) : unknownValue;
 }
 } // namespace
 
@@ -80,18 +86,19 @@ Json notificationRecord(const Notification &notification)
                   { "posteddate", notification.posted } };
 }
 
-Json airQualityRecord(int usEpaCategory, const Pollutants &p)
+Json airQualityRecord(const AirReading &air)
 {
+    const Concentrations &c = air.concentrations;
     return Json { { "id", "1" },
-                  { "aqi", std::to_string(usEpaCategory) },
-                  { "co", decimalText(p.co, 2) },
-                  { "no", decimalText(p.no, 2) },
-                  { "no2", decimalText(p.no2, 2) },
-                  { "o3", decimalText(p.o3, 2) },
-                  { "so2", decimalText(p.so2, 2) },
-                  { "pm25", decimalText(p.pm25, 2) },
-                  { "pm10", decimalText(p.pm10, 2) },
-                  { "nh3", decimalText(p.nh3, 2) } };
+                  { "aqi", std::to_string(air.usEpaCategory) },
+                  { "co", valueText(c.co, 2) },
+                  { "no", valueText(c.no, 2) },
+                  { "no2", valueText(c.no2, 2) },
+                  { "o3", valueText(c.o3, 2) },
+                  { "so2", valueText(c.so2, 2) },
+                  { "pm25", valueText(c.pm25, 2) },
+                  { "pm10", valueText(c.pm10, 2) },
+                  { "nh3", valueText(c.nh3, 2) } };
 }
 
 Json weatherRecord(const WeatherReading &weather)
@@ -100,6 +107,6 @@ Json weatherRecord(const WeatherReading &weather)
                   { "temp", decimalText(weather.kelvin, 2) },
                   { "humid", decimalText(weather.humidityPercent, 0) },
                   { "wind", decimalText(weather.windKmh, 1) },
-                  { "uv", decimalText(weather.uvIndex, 1) },
-                  { "pollen", weather.pollen } };
+                  { "uv", valueText(weather.uvIndex, 1) },
+                  { "pollen", weather.pollen.value_or(unknownValue) } };
 }

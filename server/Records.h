@@ -9,7 +9,7 @@ struct User;
 struct MedicalProfile;
 struct Subscription;
 struct Notification;
-struct Pollutants;
+struct AirReading;
 struct WeatherReading;
 
 // The records the app decodes. Every value is a string, and every key is
@@ -31,7 +31,8 @@ Json medicalDetailsRecord(const MedicalProfile &profile); // ProfileMedDetailsMo
 Json medicalConditionRecord(const MedicalProfile &profile); // ProfileMedModel
 Json subscriptionRecord(const Subscription &subscription); // ProfileSubModel
 Json notificationRecord(const Notification &notification); // NotificationModel
-Json airQualityRecord(int usEpaCategory, const Pollutants &pollutants); // AirQualityData
+// A value the source did not give is "–" in these two.
+Json airQualityRecord(const AirReading &air); // AirQualityData
 Json weatherRecord(const WeatherReading &weather); // WeatherData
 
 // Fixed-point text with the given number of decimals.

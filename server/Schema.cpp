@@ -72,6 +72,15 @@ CREATE TABLE IF NOT EXISTS sessions (
     last_used INTEGER NOT NULL
 ) WITHOUT ROWID;
 CREATE INDEX IF NOT EXISTS sessions_by_last_use ON sessions (last_used);
+-- Upstream answers for a 0.01° cell during one hour since the epoch.
+CREATE TABLE IF NOT EXISTS upstream_answers (
+    request TEXT NOT NULL,
+    lat_cell INTEGER NOT NULL,
+    lon_cell INTEGER NOT NULL,
+    hour INTEGER NOT NULL,
+    body TEXT NOT NULL,
+    PRIMARY KEY (request, lat_cell, lon_cell, hour)
+) WITHOUT ROWID;
 )sql";
 } // namespace
 

@@ -7,13 +7,17 @@
 #include "server/HistoryService.h"
 #include "server/Listeners.h"
 #include "server/LoginThrottle.h"
+#include "server/OpenMeteoSource.h"
+#include "server/OpenWeatherSource.h"
 #include "server/Options.h"
 #include "server/PrivateFiles.h"
 #include "server/ProfileScripts.h"
 #include "server/ProfileStore.h"
+#include "server/ReadingSources.h"
 #include "server/Schema.h"
 #include "server/SessionStore.h"
 #include "server/TlsCertificate.h"
+#include "server/UpstreamCache.h"
 #include "server/UserStore.h"
 
 #include <sodium.h>
@@ -38,12 +42,19 @@ sigset_t stopSignals()
     return signals;
 }
 
-std::optional<OpenWeatherClient> upstreamFromEnvironment()
+std::vector<std::unique_ptr<ReadingSource>> upstreams(const Options &options, UpstreamCache &cache)
 {
-    const char *key = std::getenv("OPENWEATHERMAP_API_KEY");
-    if (key == nullptr || *key == '\0')
-        return std::nullopt;
-    return OpenWeatherClient(key);
+    const std::chrono::milliseconds deadline(options.upstreamDeadlineMs);
+    const char *openWeatherKey = std::getenv("OPENWEATHERMAP_API_KEY");
+    std::vector<std::unique_ptr<ReadingSource>> sources;
+    for (const std::string &name : options.upstreams) {
+        if (name == "open-meteo")
+            sources.push_back(
+                std::make_unique<OpenMeteoSource>(OpenMeteoSource::Urls { options.openMeteoAirUrl, options.openMeteoWeatherUrl }, deadline, cache));
+        else if (name == "openweathermap" && openWeatherKey != nullptr && *openWeatherKey != '\0')
+            sources.push_back(std::make_unique<OpenWeatherSource>(openWeatherKey, deadline, cache));
+    }
+    return sources;
 }
 
 int serve(const Options &options, const sigset_t &signals)
@@ -58,17 +69,17 @@ int serve(const Options &options, const sigset_t &signals)
     LoginThrottle throttle(std::chrono::seconds(options.throttleDelay));
     DemoAccount::ensure(users);
 
-    std::optional<OpenWeatherClient> upstream = upstreamFromEnvironment();
-    const bool simulated = !upstream;
+    UpstreamCache cache(db, std::chrono::seconds(options.upstreamRetrySeconds));
+    ReadingSources readings(upstreams(options, cache));
     AccountScripts accountScripts(users, sessions, throttle,
                                   options.printResetPasswords ? AccountScripts::ResetPasswords::Printed : AccountScripts::ResetPasswords::Hidden);
     ProfileScripts profileScripts(sessions, profiles);
-    EnvironmentScripts environmentScripts(std::move(upstream));
+    EnvironmentScripts environmentScripts(readings);
     ScriptRouter router;
     accountScripts.addTo(router);
     profileScripts.addTo(router);
     environmentScripts.addTo(router);
-    const HistoryService history(options.historyKey);
+    const HistoryService history(options.historyKey, readings);
 
     Listeners listeners(tls, router, history);
     listeners.bind(options.host, options.httpsPort, options.httpPort);
@@ -78,8 +89,7 @@ int serve(const Options &options, const sigset_t &signals)
     Console::printLine("Tarnelo development backend ready: https=" + std::to_string(listeners.httpsPort()) + " http=" + std::to_string(listeners.httpPort())
                        + " ca=" + tls.certificate);
     Console::printLine(std::string("Demo account: ") + DemoAccount::email + " / " + DemoAccount::password);
-    Console::printLine(simulated ? "Air quality and weather: simulated (set OPENWEATHERMAP_API_KEY for real readings)"
-                                 : "Air quality and weather: OpenWeatherMap (simulated whenever it fails)");
+    Console::printLine("Air quality, weather and history: " + readings.description());
 
     int received = 0;
     sigwait(&signals, &received);

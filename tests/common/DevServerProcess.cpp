@@ -22,7 +22,8 @@ DevServerProcess::DevServerProcess(const QString &dataDir, const QStringList &op
     m_process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     m_process.start(QStringLiteral(TARNELO_DEVSERVER),
                     QStringList { QStringLiteral("--data"), m_dataDir, QStringLiteral("--https-port"), QStringLiteral("0"), QStringLiteral("--http-port"),
-                                  QStringLiteral("0"), QStringLiteral("--history-key"), historyKey() }
+                                  QStringLiteral("0"), QStringLiteral("--history-key"), historyKey(), QStringLiteral("--sources"),
+                                  QStringLiteral("simulated") }
                         + options);
     if (!m_process.waitForStarted(5000))
         return;

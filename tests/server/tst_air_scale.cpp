@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "server/AirSimulation.h"
 #include "server/AqiScale.h"
+#include "server/EpaIndex.h"
+#include "server/PollenLevel.h"
 #include "server/WeatherSimulation.h"
 
 #include <QTest>
@@ -8,11 +10,19 @@
 #include <map>
 
 Q_DECLARE_METATYPE(Pollutants)
+Q_DECLARE_METATYPE(Exposure)
 
 namespace
 {
 constexpr std::time_t newYear2026 = 1767225600; // 2026-01-01 00:00 UTC
 constexpr std::time_t day = 24 * 3600;
+
+Exposure with(std::optional<double> Exposure::*member, double value)
+{
+    Exposure e;
+    e.*member = value;
+    return e;
+}
 
 Pollutants only(double Pollutants::*member, double value)
 {
@@ -27,38 +37,67 @@ class AirScaleTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void usEpaCategory_data()
+    // Hand-computed from the EPA's 2024 breakpoints: I = (Ihi - Ilo) / (BPhi - BPlo) * (C - BPlo) + Ilo
+    // on the truncated concentration; gases at 25 °C (1 ppb NO2 = 1.88 µg/m³, O3 1.96, SO2 2.62, CO 1.15).
+    void usEpaIndex_data()
     {
-        QTest::addColumn<Pollutants>("pollutants");
+        QTest::addColumn<Exposure>("exposure");
+        QTest::addColumn<int>("value");
         QTest::addColumn<int>("category");
-        QTest::newRow("clean air") << Pollutants() << 1;
-        // PM2.5 as revised in 2024, read at one decimal.
-        QTest::newRow("pm25 9.0") << only(&Pollutants::pm25, 9.0) << 1;
-        QTest::newRow("pm25 9.09 truncates") << only(&Pollutants::pm25, 9.09) << 1;
-        QTest::newRow("pm25 9.1") << only(&Pollutants::pm25, 9.1) << 2;
-        QTest::newRow("pm25 35.5") << only(&Pollutants::pm25, 35.5) << 3;
-        QTest::newRow("pm25 125.4") << only(&Pollutants::pm25, 125.4) << 4;
-        QTest::newRow("pm25 225.5") << only(&Pollutants::pm25, 225.5) << 6;
-        QTest::newRow("pm10 54") << only(&Pollutants::pm10, 54.9) << 1;
-        QTest::newRow("pm10 355") << only(&Pollutants::pm10, 355) << 5;
-        // Gases convert at 25 °C: 1 ppb NO2 = 1.88 µg/m³, O3 1.96, SO2 2.62, CO 1.15.
-        QTest::newRow("o3 0.070 ppm") << only(&Pollutants::o3, 137.4) << 2;
-        QTest::newRow("o3 0.071 ppm") << only(&Pollutants::o3, 139.5) << 3;
-        QTest::newRow("o3 0.41 ppm") << only(&Pollutants::o3, 805) << 6;
-        QTest::newRow("no2 106 ppb") << only(&Pollutants::no2, 200) << 3;
-        QTest::newRow("so2 38 ppb") << only(&Pollutants::so2, 100) << 2;
-        QTest::newRow("co 4.4 ppm") << only(&Pollutants::co, 5099) << 1;
-        QTest::newRow("co 10.5 ppm") << only(&Pollutants::co, 12000) << 3;
-        Pollutants mixed = only(&Pollutants::pm25, 20);
-        mixed.no2 = 700; // 372 ppb
-        QTest::newRow("worst pollutant decides") << mixed << 4;
+        QTest::newRow("pm25 9.0, top of good") << with(&Exposure::pm25Day, 9.0) << 50 << 1;
+        QTest::newRow("pm25 9.09 truncates to 9.0") << with(&Exposure::pm25Day, 9.09) << 50 << 1;
+        QTest::newRow("pm25 9.1") << with(&Exposure::pm25Day, 9.1) << 51 << 2;
+        QTest::newRow("pm25 35.4") << with(&Exposure::pm25Day, 35.4) << 100 << 2;
+        QTest::newRow("pm25 40.0: 49 / 19.9 * 4.5 + 101") << with(&Exposure::pm25Day, 40.0) << 112 << 3;
+        QTest::newRow("pm25 55.5") << with(&Exposure::pm25Day, 55.5) << 151 << 4;
+        QTest::newRow("pm25 125.5") << with(&Exposure::pm25Day, 125.5) << 201 << 5;
+        QTest::newRow("pm25 225.4") << with(&Exposure::pm25Day, 225.4) << 300 << 5;
+        QTest::newRow("pm25 225.5, hazardous from 301") << with(&Exposure::pm25Day, 225.5) << 301 << 6;
+        QTest::newRow("pm25 250.0: 199 / 99.9 * 24.5 + 301") << with(&Exposure::pm25Day, 250.0) << 350 << 6;
+        QTest::newRow("pm25 400, beyond the table") << with(&Exposure::pm25Day, 400.0) << 649 << 6;
+        QTest::newRow("pm10 54.9 truncates to 54") << with(&Exposure::pm10Day, 54.9) << 50 << 1;
+        QTest::newRow("pm10 100: 49 / 99 * 45 + 51") << with(&Exposure::pm10Day, 100.0) << 73 << 2;
+        QTest::newRow("pm10 425") << with(&Exposure::pm10Day, 425.0) << 301 << 6;
+        QTest::newRow("o3 8 h 0.070 ppm") << with(&Exposure::o3EightHours, 137.5) << 100 << 2;
+        QTest::newRow("o3 8 h 0.071 ppm") << with(&Exposure::o3EightHours, 139.5) << 101 << 3;
+        Exposure ozone = with(&Exposure::o3EightHours, 400); // 0.203 ppm: past the 8-hour table
+        ozone.o3Hour = 400;
+        QTest::newRow("o3 over 0.200 ppm in 8 h: the hour decides") << ozone << 199 << 4;
+        QTest::newRow("o3 1 h 0.410 ppm") << with(&Exposure::o3Hour, 805) << 306 << 6;
+        QTest::newRow("o3 1 h below 0.125 ppm counts for nothing") << with(&Exposure::o3Hour, 200) << -1 << -1;
+        QTest::newRow("co 4.45 ppm truncates to 4.4") << with(&Exposure::coEightHours, 5099) << 50 << 1;
+        QTest::newRow("co 10.4 ppm") << with(&Exposure::coEightHours, 12000) << 116 << 3;
+        QTest::newRow("no2 106 ppb") << with(&Exposure::no2Hour, 200) << 102 << 3;
+        QTest::newRow("so2 38 ppb") << with(&Exposure::so2Hour, 100) << 54 << 2;
+        Exposure sulphur = with(&Exposure::so2Hour, 900); // 343 ppb: past the 1-hour table
+        sulphur.so2Day = 1700; // 648 ppb
+        QTest::newRow("so2 over 304 ppb in 1 h: the day decides") << sulphur << 322 << 6;
+        sulphur.so2Day = 400; // 152 ppb
+        QTest::newRow("so2 over 304 ppb in 1 h, a cleaner day") << sulphur << 200 << 4;
+        Exposure mixed = with(&Exposure::pm25Day, 20); // 71
+        mixed.no2Hour = 700; // 371 ppb
+        QTest::newRow("the worst pollutant decides") << mixed << 153 << 4;
+        QTest::newRow("no pollutant") << Exposure() << -1 << -1;
     }
 
-    void usEpaCategory()
+    void usEpaIndex()
     {
-        QFETCH(Pollutants, pollutants);
+        QFETCH(Exposure, exposure);
+        QFETCH(int, value);
         QFETCH(int, category);
-        QCOMPARE(::usEpaCategory(pollutants), category);
+        const std::optional<AirIndex> index = ::usEpaIndex(exposure);
+        QCOMPARE(index ? index->value : -1, value);
+        QCOMPARE(index ? index->category : -1, category);
+    }
+
+    // Each type on its own scale: 12 grains of birch are low, 6 of grass moderate.
+    void pollenLevel()
+    {
+        QVERIFY(!::pollenLevel({}));
+        QCOMPARE(::pollenLevel({ 0.4, 0, {}, {}, {}, {} }).value_or("?"), std::string("None"));
+        QCOMPARE(::pollenLevel({ {}, 12.0, {}, 6.0, {}, {} }).value_or("?"), std::string("Moderate"));
+        QCOMPARE(::pollenLevel({ {}, 90.0, {}, {}, {}, {} }).value_or("?"), std::string("High"));
+        QCOMPARE(::pollenLevel({ {}, {}, {}, {}, {}, 500.0 }).value_or("?"), std::string("Very high"));
     }
 
     void openWeatherIndex_data()

@@ -3,6 +3,7 @@
 #include "server/HistoryService.h"
 #include "server/Listeners.h"
 #include "server/ProfileStore.h"
+#include "server/ReadingSources.h"
 #include "server/Schema.h"
 #include "server/ScriptRouter.h"
 #include "server/TlsCertificate.h"
@@ -34,7 +35,8 @@ struct LocalListeners {
     QTemporaryDir dir;
     TlsFiles tls = ensureTlsCertificate(dir.filePath(QStringLiteral("tls")).toStdString());
     ScriptRouter scripts;
-    HistoryService history { "test-key" };
+    ReadingSources readings { {} };
+    HistoryService history { "test-key", readings };
     Listeners listeners;
 };
 
