@@ -37,6 +37,14 @@ export TARNELO_OWM_KEY="$history_key"
 # recorded log in real time.
 export TARNELO_POSITION="${TARNELO_POSITION:-nmea:$root/demo/nairobi-walk.nmea}"
 
+# Where this run's readings came from, from the backend's request lines.
+sources_used() {
+    local used
+    used="$(grep -oE '\[(open-meteo|openweathermap|simulated)[^]]*\]$' "$log" | sort | uniq -c | awk '{ $1 = $1; print }' | paste -sd ';' - || true)"
+    echo "Readings in this run: ${used:-none requested}"
+}
+trap 'sources_used; kill "$server_pid" 2>/dev/null || true; wait "$server_pid" 2>/dev/null || true' EXIT
+
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
     mkdir -p "$build/screenshots"
     shot="$build/screenshots/home.png"
