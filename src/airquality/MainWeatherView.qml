@@ -25,21 +25,10 @@ Rectangle {
             color: Theme.white
         }
 
-        Grid {
-            columns: 3
-            spacing: 8
+        WeatherGrid {
             width: parent.width
-
-            Repeater {
-                model: [["Temperature", weather.model.celsiusText], ["Wind", weather.model.txt_wind + "km/h"], ["Humidity", weather.model.txt_humid + "%"],
-                    ["UV index", weather.model.txt_uv], ["Pollen", weather.model.txt_pollen]]
-                ReadingTile {
-                    objectName: "weather_" + modelData[0]
-                    width: (content.width - 16) / 3
-                    label: modelData[0]
-                    value: modelData[1]
-                }
-            }
+            columns: 3
+            source: weather.model
         }
     }
 }

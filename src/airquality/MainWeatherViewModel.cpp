@@ -16,15 +16,20 @@ MainWeatherViewModel::MainWeatherViewModel(QObject *parent)
     updateCelsiusText();
 }
 
-std::optional<QString> MainWeatherViewModel::celsiusTextFor(const QString &kelvin)
+std::optional<QString> MainWeatherViewModel::roundedCelsiusFor(const QString &kelvin)
 {
     bool ok = false;
     const double reading = QLocale::c().toDouble(kelvin, &ok);
     if (!ok || !std::isfinite(reading))
         return std::nullopt;
     // Whole degrees on purpose; the tenth is always ".0".
-    const double celsius = std::round((reading - 273.15) * 10 / 10);
-    return doubleText(celsius) + QStringLiteral("°C");
+    return doubleText(std::round((reading - 273.15) * 10 / 10));
+}
+
+std::optional<QString> MainWeatherViewModel::celsiusTextFor(const QString &kelvin)
+{
+    const std::optional<QString> rounded = roundedCelsiusFor(kelvin);
+    return rounded ? std::optional(*rounded + QStringLiteral("°C")) : std::nullopt;
 }
 
 void MainWeatherViewModel::updateCelsiusText()

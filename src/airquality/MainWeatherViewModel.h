@@ -24,8 +24,10 @@ public:
 
     // The temperature in whole degrees Celsius, as "28.0°C".
     QString celsiusText() const { return m_celsiusText; }
-    // Kelvin text to the shown text; nothing for a text that is not a number.
+    // Kelvin text to the shown text ("28.0°C"), and to its number alone
+    // ("28.0"); nothing for a text that is not a number.
     static std::optional<QString> celsiusTextFor(const QString &kelvin);
+    static std::optional<QString> roundedCelsiusFor(const QString &kelvin);
 
 Q_SIGNALS:
     void readingsChanged();

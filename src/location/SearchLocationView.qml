@@ -43,6 +43,12 @@ Item {
         viewModel: screen.model
     }
 
+    PlaceAirCardModel {
+        id: placeAir
+        place: screen.model.locationDetails
+        deviceLocation: screen.model.deviceLocation.currentLocation
+    }
+
     // Loaded only while in view, which it is only once a search found a place.
     Loader {
         objectName: "bottomSheet"
@@ -53,6 +59,18 @@ Item {
         sourceComponent: BottomSheetView {
             details: screen.model.locationDetails
             onClose: screen.model.isBottomSheetVisible = false
+        }
+    }
+
+    // The air at the place found, above the dimmed map, coming and going with the sheet.
+    Loader {
+        objectName: "placeAirCard"
+        x: 16
+        y: 72 - (screen.sheetOffset * (72 + (item ? item.height : 0)))
+        width: screen.width - 32
+        active: screen.sheetOffset < 1
+        sourceComponent: PlaceAirCard {
+            model: placeAir
         }
     }
 }

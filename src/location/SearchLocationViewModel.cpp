@@ -7,6 +7,7 @@
 SearchLocationViewModel::SearchLocationViewModel(QObject *parent)
     : QObject(parent)
     , m_locationManager(new LocationManager(this))
+    , m_deviceLocation(new LocationManagerFunz(this))
     , m_tileServer(qEnvironmentVariable("TARNELO_TILES"))
 {
     if (LocationService::locationServicesEnabled())

@@ -3,6 +3,7 @@
 
 #include "location/LocationDetails.h"
 #include "location/LocationManager.h"
+#include "location/LoggingProvider.h"
 #include "location/MapLocation.h"
 
 #include <QList>
@@ -26,6 +27,8 @@ class SearchLocationViewModel : public QObject
     // A coordinate, or null until a search finds a place.
     Q_PROPERTY(QVariant searchedLocationCoordinate READ searchedLocationCoordinateValue NOTIFY searchedLocationCoordinateChanged)
     Q_PROPERTY(LocationManager *locationManager READ locationManager CONSTANT)
+    // The device's own position, for what a search reports beside the place.
+    Q_PROPERTY(LoggingProvider *deviceLocation READ deviceLocation CONSTANT)
     Q_PROPERTY(bool isSearchFieldFocused READ isSearchFieldFocused WRITE setSearchFieldFocused NOTIFY isSearchFieldFocusedChanged)
     // MapLocation values.
     Q_PROPERTY(QVariantList pins READ pinValues NOTIFY searchedLocationCoordinateChanged)
@@ -44,6 +47,7 @@ public:
     void setBottomSheetVisible(bool visible);
     std::optional<QGeoCoordinate> searchedLocationCoordinate() const { return m_searchedLocationCoordinate; }
     LocationManager *locationManager() const { return m_locationManager; }
+    LocationManagerFunz *deviceLocation() const { return m_deviceLocation; }
     bool isSearchFieldFocused() const { return m_isSearchFieldFocused; }
     void setSearchFieldFocused(bool focused);
     // The searched place's pin, if a search found one.
@@ -81,6 +85,7 @@ private:
     bool m_isBottomSheetVisible = false;
     std::optional<QGeoCoordinate> m_searchedLocationCoordinate;
     LocationManager *m_locationManager;
+    LocationManagerFunz *m_deviceLocation;
     bool m_isSearchFieldFocused = false;
     QString m_tileServer;
 };

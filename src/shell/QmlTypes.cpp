@@ -16,6 +16,7 @@
 #include "airquality/MainHeaderViewModel.h"
 #include "airquality/MainIndoorsViewModel.h"
 #include "airquality/MainWeatherViewModel.h"
+#include "airquality/PlaceAirCardModel.h"
 #include "airquality/PollutantCardModel.h"
 #include "airquality/TipsViewModel.h"
 #include "location/SearchLocationViewModel.h"
@@ -52,6 +53,7 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterType<HealthTipsModel>(uri, major, minor, "HealthTipsModel");
     qmlRegisterType<MainCategoryViewModel>(uri, major, minor, "MainCategoryViewModel");
     qmlRegisterType<MainHeaderViewModel>(uri, major, minor, "MainHeaderViewModel");
+    qmlRegisterType<PlaceAirCardModel>(uri, major, minor, "PlaceAirCardModel");
     qmlRegisterType<MainIndoorsViewModel>(uri, major, minor, "MainIndoorsViewModel");
     qmlRegisterType<MainWeatherViewModel>(uri, major, minor, "MainWeatherViewModel");
     qmlRegisterType<PollutantCardModel>(uri, major, minor, "PollutantCardModel");

@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "common/ScriptedResponder.h"
 #include "airquality/MainHeaderViewModel.h"
 #include "airquality/MainWeatherViewModel.h"
+#include "airquality/PlaceAirCardModel.h"
+#include "common/ScriptedResponder.h"
 #include "common/StdoutCapture.h"
+#include "location/LocationDetails.h"
+#include "storage/SQliteLogin.h"
 
 #include <QColor>
 #include <QSignalSpy>
+#include <QStandardPaths>
 #include <QTest>
 
 namespace
@@ -26,7 +30,11 @@ class DashboardPanelsTest : public QObject
     ScriptedResponder m_responder;
 
 private Q_SLOTS:
-    void initTestCase() { qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8()); }
+    void initTestCase()
+    {
+        QStandardPaths::setTestModeEnabled(true);
+        qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8());
+    }
 
     void headerShowsTheFirstReadingAndKeepsItOnEmptyOrBadAnswers()
     {
@@ -103,6 +111,47 @@ private Q_SLOTS:
         QCOMPARE(lines.size(), 1);
         QCOMPARE(text(panel, "txt_temp"), QStringLiteral("hot"));
         QCOMPARE(text(panel, "celsiusText"), QStringLiteral("28.0°C"));
+    }
+
+    // A signed-in user's search: both readings at the place, then one log of
+    // them with the device's position, unencoded; none when a reading failed.
+    void placeCardReadsThePlaceAndLogsTheSearch()
+    {
+        SQliteLogin().deleteAll();
+        SQliteLogin().insert(QStringLiteral("f00d"), QStringLiteral("Ada"), {}, QStringLiteral("ada@example.test"), {}, QStringLiteral("2"), {});
+        m_responder.answer("/tarnelo/v1/airquality.php", 200, reading);
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 200, weather);
+        m_responder.takeTargets();
+        PlaceAirCardModel card;
+        card.setProperty("deviceLocation", QVariant::fromValue(QGeoCoordinate(-1.2864, 36.8172)));
+        const LocationDetails mombasa { QStringLiteral("Mombasa"), {}, -4.0435, 39.6682 };
+        const QString log = QStringLiteral("/tarnelo/v1/locationlogs.php?txt_aqi=3&txt_co=230.5&txt_no=0.4&txt_no2=21&txt_o3=80&txt_so2=2.1&txt_pm25=38.2"
+                                           "&txt_pm10=51&txt_nh3=1.5&roundedCelsius=28.0&txt_humid=61&txt_wind=14&txt_uv=7&txt_pollen=High"
+                                           "&txt_lat=-1.2864&txt_log=36.8172&searchlat=-4.0435&searchlog=39.6682&user_id=f00d");
+        QStringList targets, lines;
+        {
+            StdoutCapture capture;
+            card.setPlace(QVariant::fromValue(mombasa));
+            (void)QTest::qWaitFor([&] { return !(targets += m_responder.takeTargets()).filter(QStringLiteral("locationlogs")).isEmpty(); }, 5000);
+            lines = capture.takeLines();
+        }
+        QCOMPARE(card.phase(), PlaceAirCardModel::Phase::Ready);
+        QCOMPARE(card.txtStatus(), QStringLiteral("Unhealthy for sensitive groups"));
+        QCOMPARE(text(card, "celsiusText"), QStringLiteral("28.0°C"));
+        QStringList readings = targets.filter(QStringLiteral("php?lat="));
+        readings.sort();
+        QCOMPARE(readings,
+                 QStringList({ QStringLiteral("/tarnelo/v1/airquality.php?lat=-4.0435&lon=39.6682"),
+                               QStringLiteral("/tarnelo/v1/weatherapi.php?lat=-4.0435&lon=39.6682") }));
+        QCOMPARE(targets.filter(QStringLiteral("locationlogs")), QStringList { log });
+        QCOMPARE(lines.filter(QStringLiteral("URL PRINT LOGS")), QStringList { QStringLiteral("URL PRINT LOGS  ") + m_responder.url() + log });
+
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 500, "not a list");
+        card.setPlace(QVariant::fromValue(mombasa));
+        QTRY_COMPARE(card.phase(), PlaceAirCardModel::Phase::Failed);
+        QTest::qWait(200);
+        QCOMPARE(m_responder.takeTargets().filter(QStringLiteral("locationlogs")), QStringList());
+        SQliteLogin().deleteAll();
     }
 };
 
