@@ -24,40 +24,53 @@ Rectangle {
         boundsBehavior: Flickable.StopAtBounds
         model: screen.viewModel.notifications
 
-        // A failed fetch says why above whatever an earlier one showed.
-        header: Item {
-            readonly property alias text: errorText.text
-            objectName: "fetchError"
-            visible: screen.viewModel.errorMessage !== ""
+        // Air alerts first, for a signed-in user; then, after a failed fetch,
+        // why it failed, above whatever an earlier one showed.
+        header: Column {
             width: list.width
-            height: visible ? errorCard.height + list.spacing : 0
+            spacing: list.spacing
 
-            Rectangle {
-                id: errorCard
+            AirAlertSettings {
+                id: airAlerts
                 x: 16
                 width: parent.width - 32
-                height: errorText.implicitHeight
-                radius: 12
-                color: Theme.surface
-                border.color: Theme.red
+                visible: airAlerts.model.signedIn
+            }
 
-                SymbolIcon {
-                    x: 12
-                    y: 14
-                    name: "exclamationmark.triangle"
-                    color: Theme.red
-                    size: 22
-                }
-                Text {
-                    id: errorText
-                    x: 44
-                    width: parent.width - x - 16
-                    topPadding: 14
-                    bottomPadding: 14
-                    wrapMode: Text.Wrap
-                    text: screen.viewModel.errorMessage
-                    font.pixelSize: 15
-                    color: Theme.label
+            Item {
+                readonly property alias text: errorText.text
+                objectName: "fetchError"
+                visible: screen.viewModel.errorMessage !== ""
+                width: list.width
+                height: visible ? errorCard.height + list.spacing : 0
+
+                Rectangle {
+                    id: errorCard
+                    x: 16
+                    width: parent.width - 32
+                    height: errorText.implicitHeight
+                    radius: 12
+                    color: Theme.surface
+                    border.color: Theme.red
+
+                    SymbolIcon {
+                        x: 12
+                        y: 14
+                        name: "exclamationmark.triangle"
+                        color: Theme.red
+                        size: 22
+                    }
+                    Text {
+                        id: errorText
+                        x: 44
+                        width: parent.width - x - 16
+                        topPadding: 14
+                        bottomPadding: 14
+                        wrapMode: Text.Wrap
+                        text: screen.viewModel.errorMessage
+                        font.pixelSize: 15
+                        color: Theme.label
+                    }
                 }
             }
         }

@@ -55,6 +55,14 @@ void AqiClassification::classify(const QString &category, AqiStatus &shown)
         shown.aqiValue = match->value;
 }
 
+QStringList AqiClassification::statusNames()
+{
+    QStringList names;
+    for (const Category &category : categories)
+        names.append(category.status);
+    return names;
+}
+
 QColor AqiClassification::readableTextOn(const QColor &background)
 {
     // Relative luminance, linearised as sRGB defines it; above the threshold,

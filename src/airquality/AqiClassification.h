@@ -3,6 +3,7 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 
 // What the dashboard shows for the backend's air-quality category, the text
 // "1" (cleanest) to "6": a status name, its colour and the index value it
@@ -21,6 +22,9 @@ namespace AqiClassification
 // Updates `shown` for the category text, compared exactly as text: " 1" or
 // "7" is no category and leaves everything as it was.
 void classify(const QString &category, AqiStatus &shown);
+
+// The six status names, cleanest first: category n is statusNames()[n - 1].
+QStringList statusNames();
 
 // Black or white, whichever reads better on the background.
 QColor readableTextOn(const QColor &background);

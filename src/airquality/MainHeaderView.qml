@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Layouts 1.15
 import Tarnelo 1.0
 
 // How clean the air is at the user's position: the status of its index on the
@@ -8,6 +10,8 @@ Rectangle {
     id: header
 
     readonly property MainHeaderViewModel model: MainHeaderViewModel {}
+
+    signal historyRequested()
 
     implicitHeight: content.implicitHeight + 32
     radius: 20
@@ -58,6 +62,60 @@ Rectangle {
         PollutantGrid {
             width: parent.width
             source: header.model
+        }
+
+        // Until an answer comes, what an earlier run last saw.
+        Text {
+            objectName: "lastReading"
+            visible: text !== ""
+            width: parent.width
+            wrapMode: Text.Wrap
+            text: header.model.lastReadingText
+            font.pixelSize: Theme.captionSize + 1
+            color: Theme.white
+        }
+
+        Text {
+            objectName: "refreshProblem"
+            visible: text !== ""
+            width: parent.width
+            wrapMode: Text.Wrap
+            text: header.model.refreshProblem
+            font.pixelSize: Theme.captionSize + 1
+            font.bold: true
+            color: Theme.white
+        }
+
+        RowLayout {
+            width: parent.width
+
+            Text {
+                objectName: "updatedText"
+                Layout.fillWidth: true
+                elide: Text.ElideRight
+                text: header.model.updatedText
+                font.pixelSize: Theme.captionSize + 1
+                color: Theme.white
+                opacity: 0.8
+            }
+            AbstractButton {
+                id: historyLink
+                objectName: "historyLink"
+                Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
+                padding: 4
+                text: "Past 7 days \u203A"
+                Accessible.role: Accessible.Link
+                Accessible.name: "Past 7 days of air quality"
+                onClicked: header.historyRequested()
+
+                contentItem: Text {
+                    text: historyLink.text
+                    font.pixelSize: 15
+                    font.weight: Font.DemiBold
+                    color: Theme.white
+                    opacity: historyLink.pressed ? 0.5 : 1
+                }
+            }
         }
     }
 }

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "airquality/AirAlertMonitor.h"
 #include "airquality/AqiClassification.h"
 #include "airquality/PositionedPanel.h"
 #include "location/GeocodingProvider.h"
+#include "storage/AlertStore.h"
 
 struct AirQualityData;
 
@@ -30,6 +32,9 @@ class MainHeaderViewModel : public PositionedPanel
     Q_PROPERTY(QColor statusColor READ statusColor NOTIFY statusChanged)
     // The colour of text drawn on statusColor.
     Q_PROPERTY(QColor statusTextColor READ statusTextColor NOTIFY statusChanged)
+    // "Last reading: Moderate in Nairobi, 3 h ago" from an earlier run, until
+    // an answer comes; empty when there is none of the last 24 hours.
+    Q_PROPERTY(QString lastReadingText READ lastReadingText NOTIFY lastReadingTextChanged)
 
 public:
     explicit MainHeaderViewModel(QObject *parent = nullptr);
@@ -40,16 +45,23 @@ public:
     QString towndate() const { return m_towndate; }
     QColor statusColor() const { return m_status.statusColor; }
     QColor statusTextColor() const { return AqiClassification::readableTextOn(m_status.statusColor); }
+    QString lastReadingText() const;
 
 Q_SIGNALS:
     void readingsChanged();
     void statusChanged();
+    void lastReadingTextChanged();
+
+private Q_SLOTS:
+    // Every 30 minutes: the same request again, if alerts are on.
+    void checkAlertsAgain();
 
 private:
     MainHeaderViewModel(LocationManagerFunHD *locationManager, QObject *parent);
     void requestReadings(const QUrl &url) override;
     void apply(const AirQualityData &reading);
     void classify();
+    void keep(const AirQualityData &reading);
 
     LocationManagerFunHD *m_locationManager;
     QString txt_aqi = QStringLiteral("0");
@@ -63,4 +75,9 @@ private:
     QString txt_nh3 = QStringLiteral("0");
     AqiStatus m_status;
     QString m_towndate = QStringLiteral("Location");
+    AlertStore m_store;
+    AirAlertMonitor m_alerts { m_store };
+    std::optional<LastReading> m_lastReading;
+    // While alerts are on, the air is checked this often even if nothing moves.
+    QTimer m_alertChecks;
 };

@@ -73,13 +73,18 @@ Rectangle {
             PollutantGrid {
                 width: parent.width
                 spacing: 6
+                tileHeight: 48
                 source: card.model
             }
-            WeatherGrid {
+            // One line, so that the card leaves the pin in view.
+            Text {
+                objectName: "placeAirWeather"
                 width: parent.width
-                spacing: 6
-                columns: 3
-                source: card.model
+                wrapMode: Text.Wrap
+                text: card.model.celsiusText + "  ·  Wind " + card.model.txt_wind + "km/h  ·  Humidity " + card.model.txt_humid
+                      + "%  ·  UV " + card.model.txt_uv + "  ·  Pollen " + card.model.txt_pollen
+                font.pixelSize: Theme.captionSize + 1
+                color: Theme.white
             }
             Text {
                 objectName: "placeAirSaved"

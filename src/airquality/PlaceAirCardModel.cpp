@@ -51,30 +51,25 @@ void PlaceAirCardModel::setPlace(const QVariant &place)
         return;
     }
     setPhase(Phase::Loading);
-    const auto onFailure = [this, request](const QString &) {
-        if (request == m_request)
-            failed();
-    };
-    fetchRecords<AirQualityData>(
-        airUrl, this,
-        [this, request](const QVector<AirQualityData> &records) {
+    fetchFirst<AirQualityData>(airUrl, request);
+    fetchFirst<WeatherData>(weatherUrl, request);
+}
+
+template<typename T> void PlaceAirCardModel::fetchFirst(const QUrl &url, int request)
+{
+    fetchRecords<T>(
+        url, this,
+        [this, request](const QVector<T> &records) {
             if (request != m_request)
                 return;
             if (records.isEmpty())
                 return failed();
             apply(records.first());
         },
-        onFailure);
-    fetchRecords<WeatherData>(
-        weatherUrl, this,
-        [this, request](const QVector<WeatherData> &records) {
-            if (request != m_request)
-                return;
-            if (records.isEmpty())
-                return failed();
-            apply(records.first());
-        },
-        onFailure);
+        [this, request](const QString &) {
+            if (request == m_request)
+                failed();
+        });
 }
 
 void PlaceAirCardModel::apply(const AirQualityData &air)

@@ -6,6 +6,7 @@
 #include <QGeoCoordinate>
 #include <QObject>
 #include <QString>
+#include <QUrl>
 #include <QVariant>
 
 struct AirQualityData;
@@ -67,6 +68,8 @@ Q_SIGNALS:
 
 private:
     void setPhase(Phase phase);
+    // The first record of a list for this place's request; an empty list or a failure fails the card.
+    template<typename T> void fetchFirst(const QUrl &url, int request);
     void apply(const AirQualityData &air);
     void apply(const WeatherData &weather);
     void failed();

@@ -8,6 +8,7 @@ Grid {
 
     // Anything with txt_co, txt_no, ... txt_nh3.
     property QtObject source
+    property real tileHeight: 64
 
     columns: 4
     spacing: 8
@@ -18,6 +19,7 @@ Grid {
         ReadingTile {
             objectName: "tile_" + modelData[0]
             width: (grid.width - 3 * grid.spacing) / 4
+            height: grid.tileHeight
             label: modelData[0]
             value: grid.source[modelData[1]]
         }

@@ -54,7 +54,7 @@ Flickable {
             color: Theme.green
             name: "Good"
             range: "0 - 50"
-            advisory: "None"
+            advisory: ScaleAdvisories.advisory(1)
             swatchHeight: 38
             textHeight: 20
         }
@@ -64,7 +64,7 @@ Flickable {
             color: Theme.yellow
             name: "Moderate"
             range: "51 - 100"
-            advisory: "Usually sensitive individual should consider limiting prolonged outdoor exertion."
+            advisory: ScaleAdvisories.advisory(2)
             swatchHeight: 125
             textHeight: 110
         }
@@ -74,7 +74,7 @@ Flickable {
             color: Theme.orange
             name: "Unhealthy for Sensitive Groups"
             range: "101 - 150"
-            advisory: "Children, active adults, and people with respiratory disease, such as asthma, should limit pronged outdoor exertion."
+            advisory: ScaleAdvisories.advisory(3)
             swatchHeight: 195
             textHeight: 180
         }
@@ -84,7 +84,7 @@ Flickable {
             color: Theme.red
             name: "Unhealthy"
             range: "151 - 200"
-            advisory: "Children, active adults, and people with respiratory disease, such as asthma, should avoid outdoor exertion;everyone else should limit prolonged outdoor exertion."
+            advisory: ScaleAdvisories.advisory(4)
             swatchHeight: 260
             textHeight: 250
         }
@@ -94,7 +94,7 @@ Flickable {
             color: Theme.assetPurple
             name: "Very Unhealthy"
             range: "201 - 300"
-            advisory: "Heath alert: The risk of health effects is increased for everyone."
+            advisory: ScaleAdvisories.advisory(5)
             swatchHeight: 125
             textHeight: 110
         }
@@ -104,7 +104,7 @@ Flickable {
             color: Theme.maroon
             name: "Hazardous"
             range: "Above 300"
-            advisory: "Health warning of emergency conditions: everyone is more likely to be affected."
+            advisory: ScaleAdvisories.advisory(6)
             swatchHeight: 150
             textHeight: 150
         }

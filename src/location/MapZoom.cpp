@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "location/MapZoom.h"
 
+#include <QDir>
+
 #include <algorithm>
 #include <cmath>
 
@@ -29,4 +31,22 @@ double zoomLevelShowing(const CoordinateRegion &region, const QSizeF &viewport)
     const double mercatorSpan = mercatorY(latitude + region.latitudeDelta / 2) - mercatorY(latitude - region.latitudeDelta / 2);
     const double latitudeZoom = std::log2(viewport.height() * 2 * pi / (tileSize * mercatorSpan));
     return std::max(0.0, std::min(longitudeZoom, latitudeZoom));
+}
+
+int deepestTileLevel(const QString &tileDirectory)
+{
+    int deepest = -1;
+    const QStringList levels = QDir(tileDirectory).entryList(QDir::Dirs | QDir::NoDotAndDotDot);
+    for (const QString &name : levels) {
+        bool isLevel = false;
+        const int level = name.toInt(&isLevel);
+        if (isLevel && level >= 0)
+            deepest = std::max(deepest, level);
+    }
+    return deepest;
+}
+
+double zoomLevelWithinTiles(double wanted, int deepestLevel)
+{
+    return deepestLevel < 0 ? wanted : std::min(wanted, double(deepestLevel));
 }

@@ -4,11 +4,19 @@
 #include "location/Geocoder.h"
 #include "location/MapZoom.h"
 
+#include <utility>
+
+namespace
+{
+std::optional<MapCamera> nextCamera;
+} // namespace
+
 SearchLocationViewModel::SearchLocationViewModel(QObject *parent)
     : QObject(parent)
     , m_locationManager(new LocationManager(this))
     , m_deviceLocation(new LocationManagerFunz(this))
-    , m_tileServer(qEnvironmentVariable("TARNELO_TILES"))
+    , m_tiles(MapTiles::forThisRun())
+    , m_cameraAtStart(std::exchange(nextCamera, std::nullopt))
 {
     if (LocationService::locationServicesEnabled())
         m_locationManager->startUpdatingLocation();
@@ -62,9 +70,23 @@ void SearchLocationViewModel::search()
     });
 }
 
+void SearchLocationViewModel::openNextAt(const MapCamera &camera)
+{
+    nextCamera = camera;
+}
+
+QVariant SearchLocationViewModel::cameraAtStartValue() const
+{
+    if (!m_cameraAtStart)
+        return {};
+    MapCamera camera = *m_cameraAtStart;
+    camera.zoomLevel = zoomLevelWithinTiles(camera.zoomLevel, m_tiles.deepestLevel);
+    return QVariant::fromValue(camera);
+}
+
 double SearchLocationViewModel::zoomLevel(const CoordinateRegion &region, const QSizeF &viewport) const
 {
-    return zoomLevelShowing(region, viewport);
+    return zoomLevelWithinTiles(zoomLevelShowing(region, viewport), m_tiles.deepestLevel);
 }
 
 void SearchLocationViewModel::showFirstPlace(const QList<Placemark> &placemarks, const QString &error)

@@ -4,7 +4,9 @@
 #include "location/LocationDetails.h"
 #include "location/LocationManager.h"
 #include "location/LoggingProvider.h"
+#include "location/MapCamera.h"
 #include "location/MapLocation.h"
+#include "location/MapTiles.h"
 
 #include <QList>
 #include <QObject>
@@ -34,8 +36,10 @@ class SearchLocationViewModel : public QObject
     Q_PROPERTY(QVariantList pins READ pinValues NOTIFY searchedLocationCoordinateChanged)
     // The sheet is up when it is asked for and has a place to tell about.
     Q_PROPERTY(bool showsBottomSheet READ showsBottomSheet NOTIFY showsBottomSheetChanged)
-    // Where the map's tiles come from (TARNELO_TILES); empty for the map library's own choice.
-    Q_PROPERTY(QString tileServer READ tileServer CONSTANT)
+    // Where the map's tiles come from: TARNELO_TILES, or else the shipped tiles.
+    Q_PROPERTY(MapTiles tiles READ tiles CONSTANT)
+    // A MapCamera the map opens on instead of following the device, or null.
+    Q_PROPERTY(QVariant cameraAtStart READ cameraAtStartValue CONSTANT)
 
 public:
     explicit SearchLocationViewModel(QObject *parent = nullptr);
@@ -53,11 +57,14 @@ public:
     // The searched place's pin, if a search found one.
     QList<MapLocation> mapLocations() const;
     bool showsBottomSheet() const { return m_isBottomSheetVisible && m_locationDetails; }
-    QString tileServer() const { return m_tileServer; }
+    MapTiles tiles() const { return m_tiles; }
+    // Where the next map screen opens, instead of on the device, e.g. for a screenshot.
+    static void openNextAt(const MapCamera &camera);
 
     // Looks the query up as typed, unless there is none.
     Q_INVOKABLE void search();
-    // The zoom level at which a map of the viewport's size shows the region.
+    // The zoom level at which a map of the viewport's size shows the region,
+    // or the tiles' deepest level if that is less deep.
     Q_INVOKABLE double zoomLevel(const CoordinateRegion &region, const QSizeF &viewport) const;
 
     // Where a search's answer lands: the first place found, if it says where
@@ -79,6 +86,7 @@ private:
     QVariant locationDetailsValue() const;
     QVariant searchedLocationCoordinateValue() const;
     QVariantList pinValues() const;
+    QVariant cameraAtStartValue() const;
 
     QString m_searchQuery;
     std::optional<LocationDetails> m_locationDetails;
@@ -87,5 +95,6 @@ private:
     LocationManager *m_locationManager;
     LocationManagerFunz *m_deviceLocation;
     bool m_isSearchFieldFocused = false;
-    QString m_tileServer;
+    MapTiles m_tiles;
+    std::optional<MapCamera> m_cameraAtStart;
 };

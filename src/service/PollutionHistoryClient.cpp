@@ -57,19 +57,24 @@ void PollutionHistoryClient::fetchHistory(const QString &latitude, const QString
     const std::optional<QString> text = requestText(latitude, longitude, startClock, clockSeconds());
     if (!text) {
         qCWarning(lcService) << "History not requested: the clock reads" << startClock;
+        Q_EMIT failed();
         return;
     }
     const QUrl url = requestUrl(*text);
-    if (url.isEmpty())
+    if (url.isEmpty()) {
+        Q_EMIT failed();
         return;
+    }
     const auto publish = [this](const HttpAnswer &answer) {
         if (!answer.received()) {
             qCWarning(lcService) << "History not received:" << answer.error;
+            Q_EMIT failed();
             return;
         }
         const DecodeResult<AQIResponse> decoded = decodeObject<AQIResponse>(answer.body);
         if (!decoded.ok()) {
             Console::printLine(QStringLiteral("Error decoding JSON: ") + decoded.error);
+            Q_EMIT failed();
             return;
         }
         Q_EMIT entriesReceived(decoded.value->list);

@@ -18,7 +18,9 @@ class PollutionHistoryClient : public QObject
 public:
     explicit PollutionHistoryClient(QObject *parent = nullptr);
 
-    // Sends one request. The coordinates go into the URL as given.
+    // Sends one request. The coordinates go into the URL as given. Ends in
+    // exactly one of entriesReceived or failed; failed may come before this
+    // returns, when no request could be sent at all.
     void fetchHistory(const QString &latitude, const QString &longitude);
 
     // The request text for a window that starts seven days before `startClock`
@@ -29,4 +31,7 @@ public:
 Q_SIGNALS:
     // The decoded entries, on the main thread; never sent after a failure.
     void entriesReceived(const QVector<AQIEntry> &entries);
+    // No usable answer: no request could be sent, none came back, or it did
+    // not decode.
+    void failed();
 };

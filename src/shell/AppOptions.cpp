@@ -4,6 +4,9 @@
 #include <QCommandLineParser>
 #include <QCoreApplication>
 
+#include <cstdio>
+#include <cstdlib>
+
 AppOptions AppOptions::parse(const QCoreApplication &app)
 {
     QCommandLineParser parser;
@@ -15,12 +18,25 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
     const QCommandLineOption selfTest(QStringLiteral("self-test"), QStringLiteral("Build every screen once and quit; fails on any QML problem."));
     const QCommandLineOption reportFirstFrame(QStringLiteral("report-first-frame"),
                                               QStringLiteral("Print the wall-clock time of the first frame in nanoseconds and quit."));
-    parser.addOptions({ screenshot, selfTest, reportFirstFrame });
+    const QCommandLineOption openHistory(QStringLiteral("open-history"),
+                                         QStringLiteral("Open the past week's air over the dashboard at start, e.g. for a screenshot of it."));
+    const QCommandLineOption mapView(QStringLiteral("map-view"),
+                                     QStringLiteral("Open the map over the dashboard at start, centred and zoomed as given, e.g. for a screenshot of it."),
+                                     QStringLiteral("latitude,longitude,zoom"));
+    parser.addOptions({ screenshot, selfTest, reportFirstFrame, openHistory, mapView });
     parser.process(app);
 
     AppOptions options;
     options.screenshotPath = parser.value(screenshot);
     options.selfTest = parser.isSet(selfTest);
     options.reportFirstFrame = parser.isSet(reportFirstFrame);
+    options.openHistory = parser.isSet(openHistory);
+    if (parser.isSet(mapView)) {
+        options.mapView = MapCamera::fromText(parser.value(mapView));
+        if (!options.mapView) {
+            std::fprintf(stderr, "--map-view takes latitude,longitude,zoom, e.g. -1.29,36.82,6\n");
+            std::exit(EXIT_FAILURE);
+        }
+    }
     return options;
 }

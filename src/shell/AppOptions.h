@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "location/MapCamera.h"
+
 #include <QString>
+
+#include <optional>
 
 class QCoreApplication;
 
@@ -10,6 +14,8 @@ struct AppOptions {
     QString screenshotPath; // save the window there once it has settled, then quit
     bool selfTest = false; // build every screen once and quit
     bool reportFirstFrame = false; // print the wall-clock time of the first frame and quit
+    bool openHistory = false; // open the past week's history over the dashboard
+    std::optional<MapCamera> mapView; // open the map there over the dashboard
 
     static AppOptions parse(const QCoreApplication &app);
 };

@@ -12,18 +12,44 @@ Item {
 
     function showDestination() {
         const view = home.model.destinationView;
+        home.closePage();
         destination.source = "";
         destination.source = view ? Qt.resolvedUrl(view + ".qml") : "";
+    }
+
+    // A page over the destination and its title, as a phone pushes a detail
+    // screen: the tabs stay, the page's own title bar has the way back.
+    function openPage(view) {
+        page.source = Qt.resolvedUrl(view + ".qml");
+    }
+
+    function closePage() {
+        page.source = "";
     }
 
     Component.onCompleted: {
         home.model.loadUserName();
         showDestination();
+        const atStart = RootController.takePageAtStart();
+        if (atStart)
+            openPage(atStart);
     }
 
     Connections {
         target: home.model
         function onDestinationChanged() { home.showDestination(); }
+    }
+
+    Connections {
+        target: destination.item
+        ignoreUnknownSignals: true
+        function onHistoryRequested() { home.openPage("HistoryView"); }
+    }
+
+    Connections {
+        target: page.item
+        ignoreUnknownSignals: true
+        function onCloseRequested() { home.closePage(); }
     }
 
     NavigationBar {
@@ -50,7 +76,30 @@ Item {
         symbols: home.model.bottomTabs
         names: home.model.bottomTabNames
         selectedIndex: home.model.selectedTab
-        onTabTapped: home.model.selectTab(index)
+        onTabTapped: {
+            home.closePage();
+            home.model.selectTab(index);
+        }
+    }
+
+    Loader {
+        id: page
+        objectName: "page"
+        anchors.top: parent.top
+        anchors.bottom: tabBar.top
+        width: parent.width
+        z: 3
+        onLoaded: slideIn.start()
+
+        NumberAnimation {
+            id: slideIn
+            target: page
+            property: "x"
+            from: home.width
+            to: 0
+            duration: 250
+            easing.type: Easing.OutCubic
+        }
     }
 
     // A tap anywhere on the content beside the open menu closes it.

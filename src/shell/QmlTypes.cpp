@@ -11,13 +11,16 @@
 #include "account/ProfileViewModel.h"
 #include "account/RegisterViewModel.h"
 #include "account/ResetPasswordViewModel.h"
+#include "airquality/AirAlertSettingsModel.h"
 #include "airquality/HealthTipsModel.h"
+#include "airquality/HistoryViewModel.h"
 #include "airquality/MainCategoryViewModel.h"
 #include "airquality/MainHeaderViewModel.h"
 #include "airquality/MainIndoorsViewModel.h"
 #include "airquality/MainWeatherViewModel.h"
 #include "airquality/PlaceAirCardModel.h"
 #include "airquality/PollutantCardModel.h"
+#include "airquality/ScaleAdvisories.h"
 #include "airquality/TipsViewModel.h"
 #include "location/SearchLocationViewModel.h"
 #include "shell/HomeViewModel.h"
@@ -50,10 +53,13 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
     qmlRegisterType<RegisterViewModel>(uri, major, minor, "RegisterViewModel");
     qmlRegisterType<ResetPasswordViewModel>(uri, major, minor, "ResetPasswordViewModel");
     qmlRegisterType<HomeViewModel>(uri, major, minor, "HomeViewModel");
+    qmlRegisterType<AirAlertSettingsModel>(uri, major, minor, "AirAlertSettingsModel");
     qmlRegisterType<HealthTipsModel>(uri, major, minor, "HealthTipsModel");
+    qmlRegisterType<HistoryViewModel>(uri, major, minor, "HistoryViewModel");
     qmlRegisterType<MainCategoryViewModel>(uri, major, minor, "MainCategoryViewModel");
     qmlRegisterType<MainHeaderViewModel>(uri, major, minor, "MainHeaderViewModel");
     qmlRegisterType<PlaceAirCardModel>(uri, major, minor, "PlaceAirCardModel");
+    qmlRegisterSingletonType<ScaleAdvisories>(uri, major, minor, "ScaleAdvisories", [](QQmlEngine *, QJSEngine *) -> QObject * { return new ScaleAdvisories; });
     qmlRegisterType<MainIndoorsViewModel>(uri, major, minor, "MainIndoorsViewModel");
     qmlRegisterType<MainWeatherViewModel>(uri, major, minor, "MainWeatherViewModel");
     qmlRegisterType<PollutantCardModel>(uri, major, minor, "PollutantCardModel");

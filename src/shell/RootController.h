@@ -4,6 +4,8 @@
 #include <QObject>
 #include <QString>
 
+#include <utility>
+
 // Owns what the window shows as its whole content. The account flows use it to
 // start over with a fresh home shell or login screen after a login or logout.
 class RootController : public QObject
@@ -19,6 +21,12 @@ public:
     Q_INVOKABLE void showHome();
     Q_INVOKABLE void showLogin();
 
+    // A page the home shell opens over the dashboard when it first shows, so
+    // that a screenshot can picture it.
+    void openPageAtStart(const QString &view) { m_pageAtStart = view; }
+    // That page's view once, then nothing.
+    Q_INVOKABLE QString takePageAtStart() { return std::exchange(m_pageAtStart, QString()); }
+
 Q_SIGNALS:
     // Emitted on every call, also for the screen already shown, because the
     // window must get a freshly constructed screen each time.
@@ -28,4 +36,5 @@ private:
     void replaceRoot(const QString &view);
 
     QString m_rootView;
+    QString m_pageAtStart;
 };

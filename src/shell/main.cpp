@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "airquality/DesktopNotifier.h"
+#include "location/SearchLocationViewModel.h"
 #include "shell/AppOptions.h"
 #include "shell/FirstFrameClock.h"
 #include "shell/QmlTypes.h"
@@ -6,8 +8,8 @@
 #include "shell/ScreenshotWriter.h"
 #include "shell/SelfTest.h"
 
+#include <QApplication>
 #include <QFont>
-#include <QGuiApplication>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
 
@@ -28,7 +30,9 @@ int main(int argc, char *argv[])
 {
     chooseHeadlessWhenNoDisplay();
     QCoreApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
-    QGuiApplication app(argc, argv);
+    // Widgets, not only Gui: Qt Charts draws its QML ChartView with the
+    // graphics view, which needs a QApplication.
+    QApplication app(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("tarnelo"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Tarnelo"));
     QGuiApplication::setApplicationVersion(QStringLiteral(TARNELO_VERSION));
@@ -37,6 +41,12 @@ int main(int argc, char *argv[])
     const AppOptions options = AppOptions::parse(app);
 
     RootController rootController;
+    if (options.openHistory)
+        rootController.openPageAtStart(QStringLiteral("HistoryView"));
+    if (options.mapView) {
+        rootController.openPageAtStart(QStringLiteral("SearchLocationView"));
+        SearchLocationViewModel::openNextAt(*options.mapView);
+    }
     QQmlApplicationEngine engine;
     QmlTypes::registerAll(engine, &rootController);
 
@@ -47,6 +57,13 @@ int main(int argc, char *argv[])
     auto *window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     if (!window)
         return 1;
+    // Activating an air alert brings the dashboard to the front.
+    DesktopNotifier::setActivationHandler([window, &rootController] {
+        rootController.showHome();
+        window->show();
+        window->raise();
+        window->requestActivate();
+    });
 
     if (options.reportFirstFrame)
         FirstFrameClock::reportAndQuit(window);

@@ -23,6 +23,8 @@ public:
     SQliteLogin &operator=(const SQliteLogin &) = delete;
 
     static QString databaseFileName();
+    // The database in the app's per-user data directory; empty without one.
+    static QString defaultDatabasePath();
 
     void insert(const QString &userid, const QString &fullname, const QString &phonenumber, const QString &emailaddress, const QString &dateofbirth,
                 const QString &gender, const QString &registerdate);
@@ -36,7 +38,6 @@ public:
     sqlite3 *db = nullptr;
 
 private:
-    static QString defaultDatabasePath();
     static sqlite3 *openDatabase(const QString &path);
     void createTable();
 };

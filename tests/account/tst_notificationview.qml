@@ -58,7 +58,7 @@ Item {
             compare(second.message, "PM10 is high this evening. Keep windows closed.");
             verify(!findChild(second, "unreadDot").visible);
             verify(!find("emptyState").visible);
-            verify(!list.headerItem.visible, "no error to show");
+            verify(!find("fetchError").visible, "no error to show");
             verify(screenshots.save(window.view, "notifications.png"));
         }
 
@@ -71,11 +71,28 @@ Item {
 
         function test_aFailedFetchShowsWhy() {
             open(200, "[{\"topic\": 1}]");
-            const error = find("notificationList").headerItem;
+            const error = find("fetchError");
             verify(error.visible);
             verify(error.text.startsWith("Failed to decode data: "), error.text);
             verify(!find("emptyState").visible, "a failure is not an empty list");
             verify(screenshots.save(window.view, "notifications-error.png"));
+        }
+
+        // Alerts sit above the list: off at first, which asks for nothing more;
+        // on, the level starts from the medical profile; received ones newest first.
+        function test_airAlertsAboveTheList() {
+            open(200, "[]");
+            const level = find("alertLevel");
+            verify(!level.enabled, "no level to pick while alerts are off");
+            find("airAlertsSwitch").toggle();
+            find("airAlertsSwitch").toggled();
+            tryVerify(() => level.enabled, 5000);
+            compare(level.currentText, "Unhealthy");
+            compare(find("alertReason").text, "Set for everyone: your medical profile is not filled in");
+            compare(backend.takeTargets().length, 1, "the medical profile, once");
+            verify(screenshots.save(window.view, "notifications-alerts.png"));
+            find("airAlertsSwitch").toggle();
+            find("airAlertsSwitch").toggled();
         }
     }
 }

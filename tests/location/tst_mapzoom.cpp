@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "location/MapZoom.h"
 
+#include <QDir>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include <cmath>
@@ -44,6 +46,22 @@ private Q_SLOTS:
         QCOMPARE(zoomLevelShowing(CoordinateRegion { QGeoCoordinate(0, 0), 170, 360 }, QSizeF(64, 64)), 0.0);
         // Near a pole the span is measured up to the Mercator map's edge.
         QVERIFY(std::isfinite(zoomLevelShowing(region(89.99, 0.05), QSizeF(390, 700))));
+    }
+
+    void shippedTilesBoundTheZoomToTheirDeepestLevel()
+    {
+        QTemporaryDir tiles;
+        QCOMPARE(deepestTileLevel(tiles.path()), -1);
+        QCOMPARE(deepestTileLevel(tiles.filePath(QStringLiteral("missing"))), -1);
+        // Levels are numbers, not names: 10 is deeper than 9; anything else is no level.
+        for (const char *name : { "0", "2", "9", "10", "cache", "11.png" })
+            QVERIFY(QDir(tiles.path()).mkdir(QString::fromLatin1(name)));
+        QCOMPARE(deepestTileLevel(tiles.path()), 10);
+
+        QCOMPARE(zoomLevelWithinTiles(13.5, 6), 6.0);
+        QCOMPARE(zoomLevelWithinTiles(3.5, 6), 3.5);
+        // A server's tiles have no deepest level: the map's own maximum holds.
+        QCOMPARE(zoomLevelWithinTiles(13.5, -1), 13.5);
     }
 };
 

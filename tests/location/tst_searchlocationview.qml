@@ -99,7 +99,7 @@ Item {
             fuzzyCompare(map.center.latitude, -1.2864, 1e-6);
             fuzzyCompare(map.center.longitude, 36.8172, 1e-6);
             compare(find("pin"), null, "no pin before a search");
-            compare(map.activeMapType.style, MapType.CustomMap, "the tiles come from TARNELO_TILES");
+            compare(map.activeMapType.style, MapType.CustomMap, "the shipped tiles");
 
             mouseDrag(map, 100, 400, 150, 200);
             verify(Math.abs(map.center.longitude - 36.8172) > 0.005, "the map pans");
@@ -108,6 +108,8 @@ Item {
             waitForSheet(true);
             compare(find("placeName").text, "Mombasa");
             fuzzyCompare(map.center.latitude, window.view.model.searchedLocationCoordinate.latitude, 1e-6);
+            compare(find("placeAirTitle").text, "Air at Mombasa");
+            verify(screenshots.save(window.view, "map-mombasa.png"));
         }
     }
 }
