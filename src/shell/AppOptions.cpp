@@ -23,13 +23,16 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
     const QCommandLineOption mapView(QStringLiteral("map-view"),
                                      QStringLiteral("Open the map over the dashboard at start, centred and zoomed as given, e.g. for a screenshot of it."),
                                      QStringLiteral("latitude,longitude,zoom"));
-    parser.addOptions({ screenshot, selfTest, reportFirstFrame, openHistory, mapView });
+    const QCommandLineOption open(QStringLiteral("open"), QStringLiteral("Show this tab or side-menu item first, e.g. \"AQI Scale\", for a screenshot of it."),
+                                  QStringLiteral("destination"));
+    parser.addOptions({ screenshot, selfTest, reportFirstFrame, open, openHistory, mapView });
     parser.process(app);
 
     AppOptions options;
     options.screenshotPath = parser.value(screenshot);
     options.selfTest = parser.isSet(selfTest);
     options.reportFirstFrame = parser.isSet(reportFirstFrame);
+    options.destination = parser.value(open);
     options.openHistory = parser.isSet(openHistory);
     if (parser.isSet(mapView)) {
         options.mapView = MapCamera::fromText(parser.value(mapView));

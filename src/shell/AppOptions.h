@@ -14,6 +14,7 @@ struct AppOptions {
     QString screenshotPath; // save the window there once it has settled, then quit
     bool selfTest = false; // build every screen once and quit
     bool reportFirstFrame = false; // print the wall-clock time of the first frame and quit
+    QString destination; // a tab or side-menu item to show first ("AQI Scale")
     bool openHistory = false; // open the past week's history over the dashboard
     std::optional<MapCamera> mapView; // open the map there over the dashboard
 

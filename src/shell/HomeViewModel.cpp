@@ -26,11 +26,32 @@ QVariantMap menuItem(const char *name, const char *icon)
 
 const QString HomeViewModel::guestName = QStringLiteral("User Name");
 
+namespace
+{
+QString &destinationAtStart()
+{
+    static QString key;
+    return key;
+}
+} // namespace
+
+void HomeViewModel::openAtStart(const QString &key)
+{
+    destinationAtStart() = key;
+}
+
 HomeViewModel::HomeViewModel(QObject *parent)
     : QObject(parent)
     , m_selectedBottomTab(homeKey)
     , m_userName(guestName)
 {
+    const QString key = destinationAtStart();
+    if (key.isEmpty())
+        return;
+    const int tab = tabNames.indexOf(key);
+    if (tab >= 0)
+        m_selectedTab = tab;
+    setNavigation(tab >= 0 ? std::nullopt : std::optional(key), tab >= 0 ? key : homeKey);
 }
 
 QVariant HomeViewModel::selectedMenuItem() const

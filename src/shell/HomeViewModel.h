@@ -55,6 +55,10 @@ public:
     bool isGuest() const { return m_userName == guestName; }
     QString destinationView() const;
 
+    // A destination every new home screen shows first, for pictures of the
+    // app: a tab's name or a side-menu item ("AQI Scale").
+    static void openAtStart(const QString &key);
+
     Q_INVOKABLE void loadUserName();
     Q_INVOKABLE void selectTab(int index);
     Q_INVOKABLE void selectMenuItem(const QString &name);

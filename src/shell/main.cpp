@@ -3,6 +3,7 @@
 #include "location/SearchLocationViewModel.h"
 #include "shell/AppOptions.h"
 #include "shell/FirstFrameClock.h"
+#include "shell/HomeViewModel.h"
 #include "shell/QmlTypes.h"
 #include "shell/RootController.h"
 #include "shell/ScreenshotWriter.h"
@@ -41,6 +42,8 @@ int main(int argc, char *argv[])
     const AppOptions options = AppOptions::parse(app);
 
     RootController rootController;
+    if (!options.destination.isEmpty())
+        HomeViewModel::openAtStart(options.destination);
     if (options.openHistory)
         rootController.openPageAtStart(QStringLiteral("HistoryView"));
     if (options.mapView) {
