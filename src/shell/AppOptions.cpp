@@ -25,7 +25,8 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
                                      QStringLiteral("latitude,longitude,zoom"));
     const QCommandLineOption open(QStringLiteral("open"), QStringLiteral("Show this tab or side-menu item first, e.g. \"AQI Scale\", for a screenshot of it."),
                                   QStringLiteral("destination"));
-    parser.addOptions({ screenshot, selfTest, reportFirstFrame, open, openHistory, mapView });
+    const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Open the window at this size, e.g. 360x720."), QStringLiteral("widthxheight"));
+    parser.addOptions({ screenshot, selfTest, reportFirstFrame, open, openHistory, mapView, size });
     parser.process(app);
 
     AppOptions options;
@@ -33,6 +34,14 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
     options.selfTest = parser.isSet(selfTest);
     options.reportFirstFrame = parser.isSet(reportFirstFrame);
     options.destination = parser.value(open);
+    if (parser.isSet(size)) {
+        const QStringList sides = parser.value(size).split(QLatin1Char('x'));
+        options.windowSize = sides.size() == 2 ? QSize(sides[0].toInt(), sides[1].toInt()) : QSize();
+        if (!options.windowSize.isValid() || options.windowSize.isEmpty()) {
+            std::fprintf(stderr, "--size takes widthxheight, e.g. 360x720\n");
+            std::exit(EXIT_FAILURE);
+        }
+    }
     options.openHistory = parser.isSet(openHistory);
     if (parser.isSet(mapView)) {
         options.mapView = MapCamera::fromText(parser.value(mapView));

@@ -3,6 +3,7 @@
 
 #include "location/MapCamera.h"
 
+#include <QSize>
 #include <QString>
 
 #include <optional>
@@ -15,6 +16,7 @@ struct AppOptions {
     bool selfTest = false; // build every screen once and quit
     bool reportFirstFrame = false; // print the wall-clock time of the first frame and quit
     QString destination; // a tab or side-menu item to show first ("AQI Scale")
+    QSize windowSize; // the window's size when valid, e.g. a phone's 360 x 720
     bool openHistory = false; // open the past week's history over the dashboard
     std::optional<MapCamera> mapView; // open the map there over the dashboard
 

@@ -60,6 +60,8 @@ int main(int argc, char *argv[])
     auto *window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     if (!window)
         return 1;
+    if (options.windowSize.isValid())
+        window->resize(options.windowSize);
     // Activating an air alert brings the dashboard to the front.
     DesktopNotifier::setActivationHandler([window, &rootController] {
         rootController.showHome();
