@@ -11,8 +11,11 @@ TextField {
     rightPadding: 16
     font.pixelSize: Theme.bodySize
     color: Theme.label
-    placeholderTextColor: Theme.gray
+    placeholderTextColor: Theme.tertiaryLabel
     selectByMouse: true
+    // Set explicitly: a name taken from the placeholder alone is lost when a
+    // screen reader starts after the field was built.
+    Accessible.name: placeholderText
 
     background: Rectangle {
         radius: 10

@@ -27,6 +27,7 @@ Column {
     AccountField {
         id: textField
         text: captioned.text
+        Accessible.name: captioned.caption
         onTextEdited: captioned.edited(text)
     }
 }

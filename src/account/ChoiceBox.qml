@@ -11,8 +11,9 @@ LabelledBox {
     property string value
     property alias buttonName: button.objectName
     property alias valueName: valueText.objectName
-    // What the button is for, for those who cannot see it.
-    property string accessibleName
+    // What the button is for, for those who cannot see it; the label unless
+    // the screen says otherwise.
+    property string accessibleName: label
 
     signal tapped()
 
@@ -20,6 +21,7 @@ LabelledBox {
         id: button
         anchors.fill: parent
         Accessible.name: box.accessibleName
+        Accessible.description: box.value
         onClicked: box.tapped()
 
         contentItem: Row {

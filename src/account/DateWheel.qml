@@ -18,9 +18,19 @@ Tumbler {
     onMovingChanged: if (!moving) wheel.settled()
 
     delegate: Text {
+        id: row
+
         required property int index
 
+        function choose() {
+            wheel.currentIndex = index;
+            wheel.settled();
+        }
+
         text: wheel.label(index)
+        Accessible.role: Accessible.Button
+        Accessible.name: text
+        Accessible.onPressAction: row.choose()
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         font.pixelSize: Theme.bodySize
@@ -30,10 +40,7 @@ Tumbler {
 
         // A pointer can pick a row by tapping it as well as by turning the wheel.
         TapHandler {
-            onTapped: {
-                wheel.currentIndex = index;
-                wheel.settled();
-            }
+            onTapped: row.choose()
         }
     }
 }

@@ -12,8 +12,9 @@ TextArea {
     font.pixelSize: Theme.bodySize
     color: Theme.label
     placeholderText: "Please share your feedback"
-    placeholderTextColor: Theme.gray
+    placeholderTextColor: Theme.tertiaryLabel
     selectByMouse: true
+    Accessible.name: placeholderText
 
     background: Rectangle {
         radius: 10

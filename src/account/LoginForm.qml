@@ -25,7 +25,7 @@ AccountPage {
 
     PasswordField {
         placeholderText: "Enter Password"
-        onTextEdited: form.viewModel.passwordtxt = text
+        onTextEdited: form.viewModel.passwordtxt = password
         onAccepted: form.viewModel.login()
     }
 

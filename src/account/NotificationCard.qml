@@ -48,7 +48,7 @@ Rectangle {
             width: parent.width
             text: card.posteddate
             font.pixelSize: Theme.captionSize
-            color: Theme.gray
+            color: Theme.tertiaryLabel
         }
         Text {
             width: parent.width

@@ -29,17 +29,24 @@ BottomSheet {
         Repeater {
             model: sheet.viewModel.options
 
-            ItemDelegate {
+            // A plain button rather than a list delegate: a list item offers
+            // no press action to a screen reader.
+            AbstractButton {
                 required property string modelData
                 objectName: "option_" + modelData
+                text: modelData
+                Accessible.name: text
+                Accessible.role: Accessible.RadioButton
+                Accessible.checked: modelData === sheet.viewModel.selectedOption
                 width: parent.width
                 height: 48
                 leftPadding: 24
                 rightPadding: 24
                 onClicked: sheet.viewModel.chooseOption(modelData)
+                background: Rectangle { color: parent.down ? Theme.background : "transparent" }
 
                 contentItem: Text {
-                    text: modelData
+                    text: parent.text
                     verticalAlignment: Text.AlignVCenter
                     font.pixelSize: Theme.bodySize
                     font.weight: modelData === sheet.viewModel.selectedOption ? Font.DemiBold : Font.Normal

@@ -97,6 +97,7 @@ AccountPage {
         spacing: 6
 
         Text {
+            id: moreDetailsCaption
             leftPadding: 4
             text: "Provide more details"
             font.pixelSize: 15
@@ -105,6 +106,7 @@ AccountPage {
 
         TextArea {
             objectName: "moreDetailsField"
+            Accessible.name: moreDetailsCaption.text
             width: parent.width
             height: Math.max(110, implicitHeight)
             padding: 14

@@ -49,7 +49,7 @@ AccountPage {
 
     PasswordField {
         placeholderText: "Password"
-        onTextEdited: screen.viewModel.passwordtxt = text
+        onTextEdited: screen.viewModel.passwordtxt = password
         onAccepted: screen.viewModel.registerAccount()
     }
 

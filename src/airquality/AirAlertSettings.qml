@@ -16,7 +16,7 @@ Rectangle {
     radius: 12
     color: Theme.surface
 
-    ColumnLayout {
+    Column {
         id: content
         x: 14
         y: 14
@@ -24,7 +24,7 @@ Rectangle {
         spacing: 8
 
         RowLayout {
-            Layout.fillWidth: true
+            width: parent.width
             Label {
                 Layout.fillWidth: true
                 text: "Air alerts"
@@ -40,7 +40,7 @@ Rectangle {
             }
         }
         RowLayout {
-            Layout.fillWidth: true
+            width: parent.width
             Label {
                 text: "Warn me from"
                 font.pixelSize: 15
@@ -59,7 +59,7 @@ Rectangle {
         }
         Label {
             objectName: "alertReason"
-            Layout.fillWidth: true
+            width: parent.width
             wrapMode: Text.Wrap
             text: card.model.reason
             font.pixelSize: 13
@@ -71,7 +71,7 @@ Rectangle {
             RowLayout {
                 required property var modelData
                 objectName: "receivedAlert"
-                Layout.fillWidth: true
+                width: content.width
                 spacing: 8
                 Rectangle {
                     width: 10

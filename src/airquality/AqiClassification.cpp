@@ -65,9 +65,10 @@ QStringList AqiClassification::statusNames()
 
 QColor AqiClassification::readableTextOn(const QColor &background)
 {
-    // Relative luminance, linearised as sRGB defines it; above the threshold,
-    // yellow and white, text is dark, on the deeper status colours white.
+    // Relative luminance, linearised as sRGB defines it. Black and white
+    // contrast equally at sqrt(1.05 * 0.05) - 0.05, about 0.18; above it
+    // black reads better, as it does on every status colour but the darkest.
     const auto linear = [](double channel) { return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4); };
     const double luminance = 0.2126 * linear(background.redF()) + 0.7152 * linear(background.greenF()) + 0.0722 * linear(background.blueF());
-    return luminance > 0.5 ? QColor(Qt::black) : QColor(Qt::white);
+    return (luminance + 0.05) * (luminance + 0.05) > 1.05 * 0.05 ? QColor(Qt::black) : QColor(Qt::white);
 }

@@ -14,6 +14,8 @@ Column {
 
     Text {
         text: "CATEGORY INSIGHTS"
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
         font.pixelSize: Theme.headlineSize
         font.bold: true
         color: Theme.label
@@ -39,6 +41,7 @@ Column {
             anchors.verticalCenter: parent.verticalCenter
             visible: category.model.isSecondButtonVisible6
             text: "Show less"
+            Accessible.name: text
             padding: 4
             leftPadding: 10
             rightPadding: 10

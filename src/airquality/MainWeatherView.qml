@@ -10,7 +10,7 @@ Rectangle {
 
     implicitHeight: content.implicitHeight + 32
     radius: 20
-    color: Theme.gray
+    color: Theme.weatherPanel
 
     Column {
         id: content
@@ -20,6 +20,8 @@ Rectangle {
 
         Text {
             text: "WEATHER UPDATES"
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
             font.pixelSize: Theme.headlineSize
             font.bold: true
             color: Theme.white

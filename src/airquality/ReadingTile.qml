@@ -9,7 +9,7 @@ Rectangle {
 
     implicitHeight: 64
     radius: 12
-    color: Qt.rgba(1, 1, 1, 0.18)
+    color: Theme.tileTint
 
     Column {
         anchors.centerIn: parent

@@ -28,7 +28,6 @@ Rectangle {
             font.bold: true
             font.letterSpacing: 1
             color: badge.source.statusTextColor
-            opacity: 0.8
         }
         Text {
             objectName: "aqiValue"

@@ -17,6 +17,13 @@ Rectangle {
 
     radius: 14
     color: Theme.surface
+    activeFocusOnTab: true
+    Keys.onReturnPressed: card.clicked()
+    Keys.onSpacePressed: card.clicked()
+    Accessible.role: Accessible.Button
+    Accessible.name: title
+    Accessible.description: card.turned ? card.longText : card.shortText
+    Accessible.onPressAction: card.clicked()
 
     TipImage {
         id: picture

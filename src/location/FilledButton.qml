@@ -10,6 +10,9 @@ Button {
     padding: 10
     leftPadding: 16
     rightPadding: 16
+    // A button's text becomes its name only if a screen reader was running
+    // when the text was set; naming it here holds either way.
+    Accessible.name: text
 
     contentItem: Text {
         text: button.text

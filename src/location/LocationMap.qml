@@ -85,8 +85,10 @@ Map {
     }
 
     // Inside the map, whose gestures take the press over once it pans.
+    // Not a control: a tap on the map only lets go of the search field.
     MouseArea {
         anchors.fill: parent
+        Accessible.ignored: true
         onClicked: map.tapped()
     }
 

@@ -16,6 +16,8 @@ Row {
         width: bar.width - searchButton.width - bar.spacing
         height: searchButton.height
         placeholderText: "Search location"
+        Accessible.name: placeholderText
+        Accessible.searchEdit: true
         font.pixelSize: Theme.bodySize
         text: bar.viewModel.searchQuery
         onTextEdited: bar.viewModel.searchQuery = text

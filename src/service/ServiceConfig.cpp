@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "service/ServiceConfig.h"
 
+#include <QDir>
+#include <QStandardPaths>
+
 namespace
 {
 QString setting(const char *variable, const char *builtIn)
@@ -34,7 +37,13 @@ QString ServiceConfig::historyKey()
 
 QString ServiceConfig::extraCaFile()
 {
-    return qEnvironmentVariable("TARNELO_CA_FILE");
+    const QString chosen = qEnvironmentVariable("TARNELO_CA_FILE");
+    if (!chosen.isEmpty())
+        return chosen;
+    const QString builtIn = QString::fromUtf8(TARNELO_DEFAULT_CA_FILE);
+    if (builtIn.isEmpty() || QDir::isAbsolutePath(builtIn))
+        return builtIn;
+    return QDir(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)).filePath(builtIn);
 }
 
 std::chrono::seconds ServiceConfig::requestDeadline()

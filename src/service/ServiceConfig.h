@@ -17,6 +17,9 @@ QString historyHost();
 // The history service's key (TARNELO_OWM_KEY).
 QString historyKey();
 // A PEM file of extra certificate authorities to trust, or empty (TARNELO_CA_FILE).
+// A relative built-in name lies in the user's data directory, where a backend
+// installed with the app writes its certificate; a relative name in the
+// variable is taken from the working directory, as any command-line path is.
 QString extraCaFile();
 // How long a request may take in all, answer included, before it is
 // abandoned (TARNELO_REQUEST_DEADLINE, whole seconds).

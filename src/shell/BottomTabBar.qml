@@ -38,12 +38,13 @@ Rectangle {
             AbstractButton {
                 id: tab
 
-                readonly property color tint: index === bar.selectedIndex ? Theme.blue : Theme.gray
+                readonly property color tint: index === bar.selectedIndex ? Theme.blue : Theme.tertiaryLabel
 
                 objectName: "tab" + index
                 width: bar.width / bar.names.length
                 height: parent.height
                 Accessible.name: bar.names[index]
+                Accessible.selected: index === bar.selectedIndex
                 onClicked: bar.tabTapped(index)
 
                 contentItem: Column {

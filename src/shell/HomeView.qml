@@ -61,12 +61,14 @@ Item {
         onUserTapped: home.model.userIconTapped()
     }
 
+    // The map uses the whole window; every other screen a readable column.
     Loader {
         id: destination
         objectName: "destination"
         anchors.top: navigationBar.bottom
         anchors.bottom: tabBar.top
-        width: parent.width
+        anchors.horizontalCenter: parent.horizontalCenter
+        width: home.model.destinationView === "SearchLocationView" ? parent.width : Math.min(parent.width, Theme.readableWidth)
     }
 
     BottomTabBar {
@@ -105,6 +107,8 @@ Item {
     // A tap anywhere on the content beside the open menu closes it.
     MouseArea {
         objectName: "contentScrim"
+        // Not a control: the menu's own "Close Menu" does this for a screen reader.
+        Accessible.ignored: true
         anchors.top: navigationBar.bottom
         anchors.bottom: parent.bottom
         width: parent.width

@@ -33,6 +33,8 @@ Popup {
                 width: parent.width - 32
                 horizontalAlignment: Text.AlignHCenter
                 text: "Notification"
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
                 font.pixelSize: Theme.headlineSize
                 font.weight: Font.DemiBold
                 color: Theme.label
@@ -42,6 +44,8 @@ Popup {
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
                 text: alert.message
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
                 font.pixelSize: 13
                 color: Theme.label
             }
@@ -53,6 +57,8 @@ Popup {
         }
         AbstractButton {
             objectName: "alertOk"
+            text: "OK"
+            Accessible.name: text
             width: parent.width
             height: 44
             onClicked: {
@@ -62,7 +68,7 @@ Popup {
             contentItem: Text {
                 horizontalAlignment: Text.AlignHCenter
                 verticalAlignment: Text.AlignVCenter
-                text: "OK"
+                text: parent.text
                 font.pixelSize: Theme.headlineSize
                 font.weight: Font.DemiBold
                 color: Theme.blue

@@ -48,6 +48,9 @@ Rectangle {
                 anchors.verticalCenter: parent.verticalCenter
                 width: menu.width - 90
                 text: menu.user_name
+                // A long name wraps, and only a very long one is cut.
+                wrapMode: Text.Wrap
+                maximumLineCount: 3
                 elide: Text.ElideRight
                 font.pixelSize: Theme.bodySize
                 font.weight: Font.DemiBold
@@ -62,14 +65,20 @@ Rectangle {
         Repeater {
             model: menu.sideMenuItems
 
-            ItemDelegate {
+            // A plain button rather than a list delegate: a list item offers
+            // no press action to a screen reader.
+            AbstractButton {
                 objectName: "menuItem_" + modelData.name
+                text: modelData.name
+                Accessible.name: text
+                Accessible.selected: modelData.name === menu.selectedMenuItem
                 width: header.width
                 topPadding: 13
                 bottomPadding: 13
                 leftPadding: 16
                 rightPadding: 16
                 onClicked: menu.itemTapped(modelData.name)
+                background: Rectangle { color: parent.down ? Theme.background : "transparent" }
                 contentItem: Row {
                     spacing: 12
 
@@ -82,7 +91,7 @@ Rectangle {
                     Text {
                         anchors.verticalCenter: parent.verticalCenter
                         width: header.width - 84
-                        text: modelData.name
+                        text: parent.parent.text
                         font.pixelSize: Theme.bodySize
                         color: Theme.label
                     }
@@ -121,13 +130,16 @@ Rectangle {
 
                 AbstractButton {
                     objectName: "footer_" + modelData
+                    text: modelData
+                    Accessible.name: text
+                    Accessible.role: Accessible.Link
                     width: footer.width
                     topPadding: 12
                     bottomPadding: 12
                     leftPadding: 16
                     onClicked: menu.additionalItemTapped(modelData)
                     contentItem: Text {
-                        text: modelData
+                        text: parent.text
                         font.pixelSize: Theme.bodySize
                         color: Theme.blue
                         opacity: parent.pressed ? 0.4 : 1

@@ -105,7 +105,7 @@ Rectangle {
             tryCompare(findChild(header, "aqiStatus"), "text", "Unhealthy", 5000);
             compare(findChild(header, "aqiValue").text, "300");
             tryCompare(status, "color", Theme.red, 2000);
-            compare(findChild(header, "aqiValue").color, Theme.white);
+            compare(findChild(header, "aqiValue").color, Theme.black);
             tryCompare(findChild(header, "townName"), "text", "Nairobi", 5000);
             compare(findChild(header, "tile_PM2.5").value, "88.4");
             compare(findChild(header, "tile_NH3").value, "6.2");

@@ -57,7 +57,7 @@ private Q_SLOTS:
         QCOMPARE(text(header, "txt_nh3"), QStringLiteral("1.5"));
         QCOMPARE(text(header, "txt_status"), QStringLiteral("Unhealthy for sensitive groups"));
         QCOMPARE(text(header, "aqiValue"), QStringLiteral("200"));
-        QCOMPARE(header.property("statusTextColor").value<QColor>(), QColor(Qt::white));
+        QCOMPARE(header.property("statusTextColor").value<QColor>(), QColor(Qt::black));
 
         // An empty answer classifies again whatever category is held by then.
         header.setProperty("txt_aqi", QStringLiteral("6"));

@@ -1,0 +1,291 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Every screen as a screen reader meets it: each control a person can press
+// has a name and can be pressed through the accessibility interface, each
+// text field has a name, and a password field never hands its text over.
+#include "shell/HomeDestinations.h"
+#include "shell/QmlTypes.h"
+#include "shell/RootController.h"
+#include "storage/SQliteLogin.h"
+
+#include <QAccessible>
+#include <QDir>
+#include <QFont>
+#include <QGuiApplication>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QTest>
+
+#include <algorithm>
+#include <memory>
+
+namespace
+{
+// Typed into every password field; it must come back from no interface.
+const QString secret = QStringLiteral("hunter2secret");
+
+bool isPressable(QAccessible::Role role)
+{
+    switch (role) {
+    case QAccessible::PushButton:
+    case QAccessible::Link:
+    case QAccessible::MenuItem:
+    case QAccessible::PageTab:
+    case QAccessible::CheckBox:
+    case QAccessible::RadioButton:
+    case QAccessible::ListItem:
+        return true;
+    default:
+        return false;
+    }
+}
+
+// QObject::isSignalConnected is protected; a derived class may name it.
+struct SignalProbe : QObject {
+    static bool connected(const QObject *object, const char *signature)
+    {
+        const int index = object->metaObject()->indexOfSignal(signature);
+        return index >= 0 && (object->*(&SignalProbe::isSignalConnected))(object->metaObject()->method(index));
+    }
+};
+
+// A Controls button presses itself; any other item needs Accessible.onPressAction.
+bool hasPressHandler(const QObject *control)
+{
+    if (control->inherits("QQuickAbstractButton"))
+        return true;
+    for (const QObject *child : control->children()) {
+        if (child->inherits("QQuickAccessibleAttached"))
+            return SignalProbe::connected(child, "pressAction()") || SignalProbe::connected(child, "toggleAction()");
+    }
+    return false;
+}
+
+struct Findings {
+    int controls = 0;
+    QStringList problems;
+};
+
+QString describe(QAccessibleInterface *control)
+{
+    const QObject *object = control->object();
+    const QString name
+        = object && !object->objectName().isEmpty() ? object->objectName() : QString::fromLatin1(object ? object->metaObject()->className() : "?");
+    return QStringLiteral("%1 (role %2, \"%3\")").arg(name).arg(control->role()).arg(control->text(QAccessible::Name));
+}
+
+void checkPressable(QAccessibleInterface *control, Findings &findings)
+{
+    if (control->text(QAccessible::Name).trimmed().isEmpty())
+        findings.problems << QStringLiteral("no name: ") + describe(control);
+    const QStringList actions = control->actionInterface() ? control->actionInterface()->actionNames() : QStringList();
+    const bool announced = actions.contains(QAccessibleActionInterface::pressAction()) || actions.contains(QAccessibleActionInterface::toggleAction());
+    if (!announced || !hasPressHandler(control->object()))
+        findings.problems << QStringLiteral("cannot be pressed: ") + describe(control);
+}
+
+void checkEditable(QAccessibleInterface *field, Findings &findings)
+{
+    // Qt withholds the name of a password edit; its description says what it is for.
+    const QString label = field->text(field->state().passwordEdit ? QAccessible::Description : QAccessible::Name);
+    if (label.trimmed().isEmpty())
+        findings.problems << QStringLiteral("no name: ") + describe(field);
+    if (!field->state().passwordEdit && !label.contains(QLatin1String("password"), Qt::CaseInsensitive))
+        return;
+    // Typed as a person would, into whatever takes the focus.
+    auto *item = qobject_cast<QQuickItem *>(field->object());
+    item->forceActiveFocus();
+    for (const QChar character : secret)
+        QTest::keyClick(item->window(), character.toLatin1());
+    const QQuickItem *typedInto = item->window()->activeFocusItem();
+    if (!typedInto || !typedInto->property("text").toString().endsWith(secret)) {
+        findings.problems << QStringLiteral("cannot be typed into: ") + describe(field);
+        return;
+    }
+    QAccessibleTextInterface *text = field->textInterface();
+    if (!field->state().passwordEdit || typedInto->property("echoMode").toInt() == 0 || field->text(QAccessible::Value).contains(secret)
+        || (text && text->text(0, text->characterCount()).contains(secret)))
+        findings.problems << QStringLiteral("password given away: ") + describe(field);
+}
+
+bool isPressableControl(QQuickItem *item)
+{
+    QAccessibleInterface *control = QAccessible::queryAccessibleInterface(item);
+    return control && isPressable(control->role()) && hasPressHandler(item);
+}
+
+// The items of a screen and their children's, as drawn: delegates hang from
+// the visual tree, not from their QObject parent.
+void collectItems(QQuickItem *root, QList<QQuickItem *> &items)
+{
+    items << root;
+    const QList<QQuickItem *> children = root->childItems();
+    for (QQuickItem *child : children)
+        collectItems(child, items);
+}
+
+QQuickItem *findItem(QQuickItem *root, const QString &name)
+{
+    QList<QQuickItem *> items;
+    collectItems(root, items);
+    const auto found = std::find_if(items.cbegin(), items.cend(), [&name](const QQuickItem *item) { return item->objectName() == name; });
+    return found == items.cend() ? nullptr : *found;
+}
+
+bool takesTaps(const QQuickItem *item)
+{
+    if (item->inherits("QQuickMouseArea") && SignalProbe::connected(item, "clicked(QQuickMouseEvent*)"))
+        return true;
+    const QObjectList children = item->children();
+    return std::any_of(children.cbegin(), children.cend(),
+                       [](const QObject *child) { return child->inherits("QQuickTapHandler") && SignalProbe::connected(child, "tapped(QQuickEventPoint*)"); });
+}
+
+bool saysItIsNoControl(const QQuickItem *item)
+{
+    const QObjectList children = item->children();
+    return std::any_of(children.cbegin(), children.cend(),
+                       [](const QObject *child) { return child->inherits("QQuickAccessibleAttached") && child->property("ignored").toBool(); });
+}
+
+// A tap that does something on a plain item must sit in a control a screen
+// reader can press, unless the item says it is no control at all.
+void checkTappableAreas(QQuickItem *screen, Findings &findings)
+{
+    QList<QQuickItem *> items;
+    collectItems(screen, items);
+    for (QQuickItem *item : std::as_const(items)) {
+        if (!item->isVisible() || !item->isEnabled() || !takesTaps(item) || saysItIsNoControl(item))
+            continue;
+        bool reachable = false;
+        for (QQuickItem *ancestor = item; ancestor && !reachable; ancestor = ancestor->parentItem())
+            reachable = isPressableControl(ancestor);
+        if (!reachable)
+            findings.problems << QStringLiteral("tap without a control: ") + item->objectName() + QLatin1Char(' ')
+                    + QString::fromLatin1(item->metaObject()->className());
+    }
+}
+
+void walk(QAccessibleInterface *node, Findings &findings)
+{
+    if (!node || node->state().invisible)
+        return;
+    if (isPressable(node->role())) {
+        ++findings.controls;
+        checkPressable(node, findings);
+    } else if (node->role() == QAccessible::EditableText && !(node->parent() && node->parent()->role() == QAccessible::ComboBox)) {
+        // A combo box's text shows its choice; the box has the name.
+        ++findings.controls;
+        checkEditable(node, findings);
+    }
+    for (int i = 0; i < node->childCount(); ++i)
+        walk(node->child(i), findings);
+}
+} // namespace
+
+class AccessibleTreeTest : public QObject
+{
+    Q_OBJECT
+
+private:
+    // The screen built from its file on a shown phone-sized window.
+    std::unique_ptr<QQuickItem> show(QQuickWindow &window, const QString &view)
+    {
+        window.resize(390, 844);
+        QQmlComponent component(m_engine.get(), QUrl(QStringLiteral("qrc:/qml/") + view + QStringLiteral(".qml")));
+        std::unique_ptr<QQuickItem> screen(qobject_cast<QQuickItem *>(component.create()));
+        if (!screen) {
+            qWarning("%s", qPrintable(component.errorString()));
+            return nullptr;
+        }
+        screen->setParentItem(window.contentItem());
+        screen->setSize(window.size());
+        window.show();
+        return QTest::qWaitForWindowExposed(&window) ? std::move(screen) : nullptr;
+    }
+
+    RootController m_rootController;
+    std::unique_ptr<QQmlEngine> m_engine;
+
+private Q_SLOTS:
+    void initTestCase()
+    {
+        QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
+        QStandardPaths::setTestModeEnabled(true);
+        QCoreApplication::setApplicationName(QStringLiteral("tarnelo-tests-accessible-tree"));
+        QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
+        m_engine = std::make_unique<QQmlEngine>();
+        QmlTypes::registerAll(*m_engine, &m_rootController);
+    }
+
+    void everyControlIsNamedAndPressable_data()
+    {
+        QTest::addColumn<QString>("view");
+        QTest::addColumn<bool>("signedIn");
+        QStringList views = HomeDestinations::allViews();
+        // The home shell, and the pages the screens open over themselves.
+        views << QStringLiteral("HomeView") << QStringLiteral("HistoryView") << QStringLiteral("RegisterView") << QStringLiteral("ResetPasswordView")
+              << QStringLiteral("ProfileDetails") << QStringLiteral("ProfileMedicalView") << QStringLiteral("ProfileSubscriptionView");
+        for (const QString &view : std::as_const(views)) {
+            QTest::newRow(qPrintable(view + QStringLiteral(", guest"))) << view << false;
+            QTest::newRow(qPrintable(view + QStringLiteral(", signed in"))) << view << true;
+        }
+    }
+
+    void everyControlIsNamedAndPressable()
+    {
+        QFETCH(QString, view);
+        QFETCH(bool, signedIn);
+        SQliteLogin().deleteAll();
+        if (signedIn)
+            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
+                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+        QQuickWindow window;
+        const std::unique_ptr<QQuickItem> screen = show(window, view);
+        QVERIFY(screen);
+
+        // The home shell hides its side menu until asked.
+        if (auto *menu = screen->findChild<QQuickItem *>(QStringLiteral("sideMenu"))) {
+            QMetaObject::invokeMethod(screen->property("model").value<QObject *>(), "toggleSideMenu");
+            QTRY_COMPARE(menu->x(), 0.0);
+        }
+
+        // Sheets and pickers are read only while open.
+        const QList<QObject *> popups = screen->findChildren<QObject *>();
+        for (QObject *popup : popups) {
+            if (popup->inherits("QQuickPopup"))
+                QMetaObject::invokeMethod(popup, "open");
+        }
+
+        // As when a screen reader starts: the controls built so far fill in
+        // their roles. The offscreen platform has no bridge to keep it on.
+        QAccessible::setActive(true);
+        Findings findings;
+        walk(QAccessible::queryAccessibleInterface(&window), findings);
+        checkTappableAreas(window.contentItem(), findings);
+        qInfo("%s: %d controls checked", QTest::currentDataTag(), findings.controls);
+        QVERIFY2(findings.problems.isEmpty(), qPrintable(findings.problems.join(QLatin1String("\n  "))));
+    }
+
+    // Pressing through the interface does what a tap does, on a control
+    // that is no Controls button: a tip card turns over.
+    void aPressThroughTheInterfaceActs()
+    {
+        QQuickWindow window;
+        const std::unique_ptr<QQuickItem> dashboard = show(window, QStringLiteral("MainView"));
+        QVERIFY(dashboard);
+        QQuickItem *card = findItem(dashboard.get(), QStringLiteral("tipCard_0"));
+        QVERIFY(card);
+        QVERIFY(!card->property("turned").toBool());
+        QAccessible::setActive(true);
+        QAccessibleInterface *control = QAccessible::queryAccessibleInterface(card);
+        QVERIFY(control && control->actionInterface());
+        control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        QVERIFY(card->property("turned").toBool());
+    }
+};
+
+QTEST_MAIN(AccessibleTreeTest)
+#include "tst_accessibletree.moc"
