@@ -13,24 +13,11 @@ build="$(cd "${1:-$root/build}" && pwd)"
 out="${2:-$root/docs/screenshots}"
 mkdir -p "$out"
 scratch="$(mktemp -d)"
-history_key=0123456789abcdef0123456789abcdef
+# shellcheck source=scripts/dev-backend.sh
+. "$root/scripts/dev-backend.sh"
 
-"$build/server/tarnelo-devserver" --data "$scratch/backend" --https-port 0 --http-port 0 --history-key "$history_key" > "$scratch/backend.log" 2>&1 &
-server_pid=$!
-trap 'kill "$server_pid" 2>/dev/null || true; wait "$server_pid" 2>/dev/null || true; rm -rf "$scratch"' EXIT
-ready=""
-for _ in $(seq 1 150); do
-    ready="$(grep -m1 '^Tarnelo development backend ready:' "$scratch/backend.log" || true)"
-    [ -n "$ready" ] && break
-    sleep 0.1
-done
-[ -n "$ready" ] || { echo "The development backend did not get ready" >&2; exit 1; }
-field() { sed -n "s/.* $1=\([^ ]*\).*/\1/p" <<<"$ready"; }
-
-export TARNELO_BACKEND_URL="https://127.0.0.1:$(field https)"
-export TARNELO_HISTORY_URL="http://127.0.0.1:$(field http)"
-export TARNELO_CA_FILE="${ready#* ca=}"
-export TARNELO_OWM_KEY="$history_key"
+start_dev_backend "$build/server/tarnelo-devserver" "$scratch/backend" "$scratch/backend.log"
+trap 'kill "$dev_backend_pid" 2>/dev/null || true; wait "$dev_backend_pid" 2>/dev/null || true; rm -rf "$scratch"' EXIT
 export TARNELO_POSITION="fixed:-1.2864,36.8172"
 export XDG_DATA_HOME="$scratch/data"
 
