@@ -54,6 +54,7 @@ Rectangle {
                 currentIndex: card.model.level - 1
                 displayText: card.model.level > 0 ? currentText : "—"
                 Accessible.name: "Alert level"
+                Accessible.onPressAction: popup.open()
                 onActivated: index => card.model.level = index + 1
             }
         }

@@ -30,7 +30,7 @@ Rectangle {
             anchors.leftMargin: 8
             anchors.verticalCenter: parent.verticalCenter
             symbol: "chevron.left"
-            Accessible.name: "Back"
+            label: "Back"
             onClicked: page.closeRequested()
         }
         Text {

@@ -21,6 +21,7 @@ Rectangle {
         anchors.leftMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         symbol: "line.horizontal.3"
+        label: "Menu"
         onClicked: bar.menuTapped()
     }
 
@@ -41,6 +42,7 @@ Rectangle {
         anchors.rightMargin: 16
         anchors.verticalCenter: parent.verticalCenter
         symbol: "person.crop.circle.fill"
+        label: "Account"
         onClicked: bar.userTapped()
     }
 

@@ -8,10 +8,12 @@ AbstractButton {
     id: button
 
     property string symbol
+    // What the button does, for a screen reader: the symbol's name is no word.
+    required property string label
 
     implicitWidth: 44
     implicitHeight: 44
-    Accessible.name: symbol
+    Accessible.name: label
 
     contentItem: SymbolIcon {
         name: button.symbol
