@@ -48,4 +48,4 @@ shot profile --open Profile
 shot health-tips --open "Health Tips"
 shot scale --open "AQI Scale"
 shot history --open-history
-shot map --map-view -4.05,39.66,6
+shot map --search Mombasa

@@ -4,11 +4,14 @@
 #include "location/Geocoder.h"
 #include "location/MapZoom.h"
 
+#include <QTimer>
+
 #include <utility>
 
 namespace
 {
 std::optional<MapCamera> nextCamera;
+QString nextSearch;
 } // namespace
 
 SearchLocationViewModel::SearchLocationViewModel(QObject *parent)
@@ -20,6 +23,11 @@ SearchLocationViewModel::SearchLocationViewModel(QObject *parent)
 {
     if (LocationService::locationServicesEnabled())
         m_locationManager->startUpdatingLocation();
+    if (!nextSearch.isEmpty()) {
+        setSearchQuery(std::exchange(nextSearch, QString()));
+        // Once the screen is built, so that it sees the place arrive.
+        QTimer::singleShot(0, this, &SearchLocationViewModel::search);
+    }
 }
 
 void SearchLocationViewModel::setSearchQuery(const QString &query)
@@ -68,6 +76,11 @@ void SearchLocationViewModel::search()
         geocoder->deleteLater();
         showFirstPlace(placemarks, error);
     });
+}
+
+void SearchLocationViewModel::searchNextFor(const QString &query)
+{
+    nextSearch = query;
 }
 
 void SearchLocationViewModel::openNextAt(const MapCamera &camera)

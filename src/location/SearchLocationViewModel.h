@@ -60,6 +60,8 @@ public:
     MapTiles tiles() const { return m_tiles; }
     // Where the next map screen opens, instead of on the device, e.g. for a screenshot.
     static void openNextAt(const MapCamera &camera);
+    // What the next map screen looks up as soon as it opens, e.g. for a screenshot.
+    static void searchNextFor(const QString &query);
 
     // Looks the query up as typed, unless there is none.
     Q_INVOKABLE void search();

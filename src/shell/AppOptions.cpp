@@ -26,7 +26,9 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
     const QCommandLineOption open(QStringLiteral("open"), QStringLiteral("Show this tab or side-menu item first, e.g. \"AQI Scale\", for a screenshot of it."),
                                   QStringLiteral("destination"));
     const QCommandLineOption size(QStringLiteral("size"), QStringLiteral("Open the window at this size, e.g. 360x720."), QStringLiteral("widthxheight"));
-    parser.addOptions({ screenshot, selfTest, reportFirstFrame, open, openHistory, mapView, size });
+    const QCommandLineOption search(QStringLiteral("search"), QStringLiteral("Open the map over the dashboard and look this place up at once."),
+                                    QStringLiteral("place"));
+    parser.addOptions({ screenshot, selfTest, reportFirstFrame, open, openHistory, mapView, search, size });
     parser.process(app);
 
     AppOptions options;
@@ -43,6 +45,7 @@ AppOptions AppOptions::parse(const QCoreApplication &app)
         }
     }
     options.openHistory = parser.isSet(openHistory);
+    options.search = parser.value(search);
     if (parser.isSet(mapView)) {
         options.mapView = MapCamera::fromText(parser.value(mapView));
         if (!options.mapView) {

@@ -19,6 +19,7 @@ struct AppOptions {
     QSize windowSize; // the window's size when valid, e.g. a phone's 360 x 720
     bool openHistory = false; // open the past week's history over the dashboard
     std::optional<MapCamera> mapView; // open the map there over the dashboard
+    QString search; // open the map over the dashboard and look this place up
 
     static AppOptions parse(const QCoreApplication &app);
 };

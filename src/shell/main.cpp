@@ -50,6 +50,10 @@ int main(int argc, char *argv[])
         rootController.openPageAtStart(QStringLiteral("SearchLocationView"));
         SearchLocationViewModel::openNextAt(*options.mapView);
     }
+    if (!options.search.isEmpty()) {
+        rootController.openPageAtStart(QStringLiteral("SearchLocationView"));
+        SearchLocationViewModel::searchNextFor(options.search);
+    }
     QQmlApplicationEngine engine;
     QmlTypes::registerAll(engine, &rootController);
 
