@@ -20,8 +20,7 @@ bool AirAlertMonitor::alertsOn()
 void AirAlertMonitor::check(const QString &category, const QString &town)
 {
     const QStringList names = AqiClassification::statusNames();
-    // Compared as text, as the classifier does: " 1" is no category.
-    const int reading = category.size() == 1 && category.at(0) >= QLatin1Char('1') && category.at(0) <= QLatin1Char('6') ? category.at(0).digitValue() : 0;
+    const int reading = AqiClassification::categoryNumber(category);
     const QString user = m_store.signedInUser();
     if (reading == 0 || user.isEmpty())
         return;

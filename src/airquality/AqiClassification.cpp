@@ -55,6 +55,12 @@ void AqiClassification::classify(const QString &category, AqiStatus &shown)
         shown.aqiValue = match->value;
 }
 
+int AqiClassification::categoryNumber(const QString &category)
+{
+    const Category *found = find(category);
+    return found ? static_cast<int>(found - categories.data()) + 1 : 0;
+}
+
 QStringList AqiClassification::statusNames()
 {
     QStringList names;

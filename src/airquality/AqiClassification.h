@@ -23,6 +23,10 @@ namespace AqiClassification
 // "7" is no category and leaves everything as it was.
 void classify(const QString &category, AqiStatus &shown);
 
+// The category a text names, 1 to 6, compared as classify() compares it;
+// 0 for any other text.
+int categoryNumber(const QString &category);
+
 // The six status names, cleanest first: category n is statusNames()[n - 1].
 QStringList statusNames();
 

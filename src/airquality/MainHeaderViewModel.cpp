@@ -30,9 +30,8 @@ QString MainHeaderViewModel::lastReadingText() const
     if (!m_lastReading)
         return {};
     const qint64 age = m_lastReading->time.secsTo(QDateTime::currentDateTimeUtc());
-    const QString category = m_lastReading->readings.value(0);
-    const int index = category.size() == 1 ? category.at(0).digitValue() : 0;
-    if (age > 24 * 3600 || index < 1 || index > 6)
+    const int index = AqiClassification::categoryNumber(m_lastReading->readings.value(0));
+    if (age > 24 * 3600 || index == 0)
         return {};
     const QString town = m_lastReading->town.isEmpty() ? QString() : QStringLiteral(" in ") + m_lastReading->town;
     return QStringLiteral("Last reading: ") + AqiClassification::statusNames().at(index - 1) + town + QStringLiteral(", ") + ReadingAge::ago(age);

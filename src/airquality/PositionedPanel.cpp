@@ -29,8 +29,10 @@ void PositionedPanel::showPosition(double latitude, double longitude)
 
 bool PositionedPanel::resend()
 {
+    if (!m_hasPosition)
+        return false;
     const QUrl url = requestUrl(backendRequestText(m_script, { { "lat", m_searchlat }, { "lon", m_searchlog } }));
-    if (!m_hasPosition || url.isEmpty())
+    if (url.isEmpty())
         return false;
     requestReadings(url);
     return true;
