@@ -9,9 +9,16 @@ one run, against the development backend on loopback, printed as one table:
   the figure to watch for regressions;
 - peak resident memory: the app's once its dashboard has filled (its
   --screenshot waits for that), the bare window's at its first frame;
-- a position fix to the header's fields, from build/bench/fix_to_header.
+- a position fix to the header's fields, from build/bench/fix_to_header: the
+  median and 95th percentile of the later fixes, and the first fix, which
+  also pays for the connection and the TLS handshake;
+- the home shell, from build/bench/shell_switch: a tab switch from the tap to
+  the frame showing the new destination (median of every tab over 20
+  rounds, and the slowest tab's median), and the time and frames from a tap
+  on the menu button to the frame where the side menu has moved, the first
+  time (when it is built) and later.
 
-Usage: bench/startup.py BUILD_DIR [--runs 21] [--fixes 50] [--no-callgrind]
+Usage: bench/startup.py BUILD_DIR [--runs 21] [--fixes 50] [--rounds 20] [--no-callgrind]
 """
 import argparse
 import os
@@ -33,6 +40,15 @@ def start_backend(build, data):
         server.kill()
         sys.exit(f"the backend did not start: {ready!r}")
     return server, match
+
+
+def app_environment(scratch, ready):
+    """Headless, against the backend `ready` announced, with a fixed position
+    and the extra certificate authority a development backend needs."""
+    return dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", XDG_DATA_HOME=f"{scratch}/data",
+                TARNELO_BACKEND_URL=f"https://127.0.0.1:{ready.group(1)}", TARNELO_HISTORY_URL=f"http://127.0.0.1:{ready.group(2)}",
+                TARNELO_CA_FILE=ready.group(3), TARNELO_OWM_KEY="0123456789abcdef0123456789abcdef",
+                TARNELO_POSITION="fixed:-1.2864,36.8172")
 
 
 def first_frame_ms(program, env):
@@ -62,6 +78,7 @@ def main():
     parser.add_argument("build")
     parser.add_argument("--runs", type=int, default=21)
     parser.add_argument("--fixes", type=int, default=50)
+    parser.add_argument("--rounds", type=int, default=20)
     parser.add_argument("--no-callgrind", action="store_true")
     options = parser.parse_args()
     build = os.path.abspath(options.build)
@@ -70,10 +87,7 @@ def main():
     scratch = tempfile.mkdtemp()
     server, ready = start_backend(build, f"{scratch}/backend")
     try:
-        env = dict(os.environ, QT_QPA_PLATFORM="offscreen", QT_QUICK_BACKEND="software", XDG_DATA_HOME=f"{scratch}/data",
-                   TARNELO_BACKEND_URL=f"https://127.0.0.1:{ready.group(1)}", TARNELO_HISTORY_URL=f"http://127.0.0.1:{ready.group(2)}",
-                   TARNELO_CA_FILE=ready.group(3), TARNELO_OWM_KEY="0123456789abcdef0123456789abcdef",
-                   TARNELO_POSITION="fixed:-1.2864,36.8172")
+        env = app_environment(scratch, ready)
         frames = {app: [], bare: []}
         for _ in range(options.runs):
             for program in (bare, app):
@@ -82,7 +96,10 @@ def main():
         rss = {bare: peak_rss_mib([bare, "--report-first-frame"], env),
                app: peak_rss_mib([app, "--screenshot", f"{scratch}/home.png"], env)}
         fix = subprocess.run([f"{build}/bench/fix_to_header", str(options.fixes)], env=env, capture_output=True, text=True, timeout=300)
-        fix_line = re.search(r"median ([\d.]+) p95 ([\d.]+)", fix.stdout)
+        fix_line = re.search(r"median ([\d.]+) p95 ([\d.]+) n \d+ first ([\d.]+)", fix.stdout)
+        shell = subprocess.run([f"{build}/bench/shell_switch", str(options.rounds)], env=env, capture_output=True, text=True, timeout=300)
+        tabs = re.search(r"tab-switch-ms median ([\d.]+) p95 ([\d.]+) slowest-tab ([\d.]+)", shell.stdout)
+        menu = re.search(r"side-menu-moving first (\d+) frames ([\d.]+) ms later (\d+) frames ([\d.]+) ms", shell.stdout)
     finally:
         server.terminate()
         server.wait()
@@ -102,8 +119,14 @@ def main():
         print(f"{name:40} {show(base)} {show(ours)} {ratio(ours, base):>8}")
     if fix_line:
         print(f"{'fix to header fields, ms':40} {'':>12} {'median ' + fix_line.group(1):>12}  p95 {fix_line.group(2)} ({options.fixes} fixes)")
+        print(f"{'first fix to header fields, ms':40} {'':>12} {fix_line.group(3):>12}  (connection and TLS handshake)")
     else:
         print(f"fix to header: no figure ({fix.stderr.strip()[-200:]})")
+    if tabs and menu:
+        print(f"{'tab switch to its frame, ms':40} {'':>12} {'median ' + tabs.group(1):>12}  p95 {tabs.group(2)}, slowest tab's median {tabs.group(3)} ({options.rounds} rounds)")
+        print(f"{'side menu moving after the tap, first':40} {'':>12} {menu.group(2) + ' ms':>12}  frame {menu.group(1)}; later {menu.group(4)} ms, frame {menu.group(3)}")
+    else:
+        print(f"shell: no figure ({shell.stderr.strip()[-200:]})")
     print(f"({options.runs} interleaved runs each; offscreen, software rendering, backend on loopback)")
 
 

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -40,7 +41,7 @@ Rectangle {
                 onClicked: page.StackView.view.pop()
             }
 
-            Text {
+            T.Label {
                 id: headingText
                 objectName: "pageHeading"
                 width: parent.width
@@ -50,7 +51,7 @@ Rectangle {
                 color: Theme.label
             }
 
-            Text {
+            T.Label {
                 id: titleText
                 objectName: "pageTitle"
                 font.pixelSize: 15

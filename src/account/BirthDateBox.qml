@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // The birth date of a personal details form on its three wheels, under a caption.
@@ -12,7 +13,7 @@ Column {
     width: parent ? parent.width : 0
     spacing: 6
 
-    Text {
+    T.Label {
         id: labelText
         leftPadding: 4
         text: "Date of Birth"

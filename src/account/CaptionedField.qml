@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // A text field with its caption above it.
@@ -17,7 +18,7 @@ Column {
     width: parent ? parent.width : implicitWidth
     spacing: 6
 
-    Text {
+    T.Label {
         id: captionText
         leftPadding: 4
         font.pixelSize: 15

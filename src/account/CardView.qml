@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One section of the profile: a white card with its title over its lines.
@@ -22,7 +23,7 @@ Rectangle {
         width: card.width - 2 * x
         spacing: 6
 
-        Text {
+        T.Label {
             id: titleText
             width: parent.width
             bottomPadding: 4

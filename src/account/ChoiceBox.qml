@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -28,13 +29,13 @@ LabelledBox {
             layoutDirection: Qt.RightToLeft
             spacing: 6
 
-            Text {
+            T.Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: "›"
                 font.pixelSize: 22
                 color: Theme.gray
             }
-            Text {
+            T.Label {
                 id: valueText
                 anchors.verticalCenter: parent.verticalCenter
                 text: box.value

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // A box shaped like the text fields with a label on its left and, on its
@@ -16,7 +17,7 @@ Rectangle {
     color: Theme.surface
     border.color: Theme.separator
 
-    Text {
+    T.Label {
         id: labelText
         x: 16
         anchors.verticalCenter: parent.verticalCenter

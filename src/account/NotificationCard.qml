@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One notification: its topic, when it was posted and its message; a blue
@@ -36,7 +37,7 @@ Rectangle {
         bottomPadding: 14
         spacing: 4
 
-        Text {
+        T.Label {
             width: parent.width
             wrapMode: Text.Wrap
             text: card.topic
@@ -44,13 +45,13 @@ Rectangle {
             font.weight: card.unread ? Font.Bold : Font.DemiBold
             color: Theme.label
         }
-        Text {
+        T.Label {
             width: parent.width
             text: card.posteddate
             font.pixelSize: Theme.captionSize
             color: Theme.tertiaryLabel
         }
-        Text {
+        T.Label {
             width: parent.width
             topPadding: 4
             wrapMode: Text.Wrap

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -60,7 +61,7 @@ Rectangle {
                         color: Theme.red
                         size: 22
                     }
-                    Text {
+                    T.Label {
                         id: errorText
                         x: 44
                         width: parent.width - x - 16
@@ -99,7 +100,7 @@ Rectangle {
             color: Theme.gray
             size: 48
         }
-        Text {
+        T.Label {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             text: "No notifications yet"
@@ -107,7 +108,7 @@ Rectangle {
             font.weight: Font.DemiBold
             color: Theme.label
         }
-        Text {
+        T.Label {
             width: parent.width
             horizontalAlignment: Text.AlignHCenter
             wrapMode: Text.Wrap

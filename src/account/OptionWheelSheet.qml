@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One choice from a short list as a sheet: its title over a wheel of
@@ -24,7 +25,7 @@ BottomSheet {
     contentItem: Column {
         spacing: 8
 
-        Text {
+        T.Label {
             id: titleText
             objectName: "sheetTitle"
             width: parent.width

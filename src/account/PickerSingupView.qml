@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -16,7 +17,7 @@ BottomSheet {
     contentItem: Column {
         spacing: 4
 
-        Text {
+        T.Label {
             width: parent.width
             bottomPadding: 8
             horizontalAlignment: Text.AlignHCenter

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -96,7 +97,7 @@ AccountPage {
         width: parent.width
         spacing: 6
 
-        Text {
+        T.Label {
             id: moreDetailsCaption
             leftPadding: 4
             text: "Provide more details"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -47,14 +48,14 @@ AccountPage {
         contentItem: Row {
             spacing: 8
 
-            Text {
+            T.Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: "Plan Benefits"
                 font.pixelSize: Theme.headlineSize
                 font.weight: Font.DemiBold
                 color: Theme.label
             }
-            Text {
+            T.Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: "Packages"
                 font.pixelSize: 15
@@ -77,7 +78,7 @@ AccountPage {
         color: Theme.surface
         border.color: Theme.separator
 
-        Text {
+        T.Label {
             id: benefits
             objectName: "benefits"
             width: parent.width
@@ -93,7 +94,7 @@ AccountPage {
     LabelledBox {
         label: "Amount: (kshs)"
 
-        Text {
+        T.Label {
             objectName: "amount"
             anchors.right: parent.right
             anchors.rightMargin: 4

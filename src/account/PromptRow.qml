@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // A question and the link that answers it, centred under a form:
@@ -15,7 +16,7 @@ Row {
 
     anchors.horizontalCenter: parent.horizontalCenter
 
-    Text {
+    T.Label {
         id: promptText
         anchors.verticalCenter: parent.verticalCenter
         font.pixelSize: 15

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -36,7 +37,7 @@ AbstractButton {
             sourceSize: Qt.size(96, 64)
             source: "qrc:/images/" + row.imageName + ".svg"
         }
-        Text {
+        T.Label {
             anchors.left: picture.right
             anchors.leftMargin: 12
             anchors.right: mark.left

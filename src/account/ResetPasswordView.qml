@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // Asking the backend for a new password; once it agrees, a fresh login screen.
@@ -16,7 +17,7 @@ AccountPage {
     heading: "Reset Password!"
     title: "Get New Password"
 
-    Text {
+    T.Label {
         width: parent.width
         wrapMode: Text.Wrap
         text: "Enter the email address of your account to reset its password."

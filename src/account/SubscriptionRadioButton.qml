@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -25,7 +26,7 @@ AbstractButton {
             name: row.isSelected ? "largecircle.fill.circle" : "circle"
             color: Theme.blue
         }
-        Text {
+        T.Label {
             anchors.verticalCenter: parent.verticalCenter
             text: row.title
             font.pixelSize: Theme.bodySize

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -33,7 +34,7 @@ Rectangle {
             label: "Back"
             onClicked: page.closeRequested()
         }
-        Text {
+        T.Label {
             objectName: "title"
             anchors.centerIn: parent
             width: parent.width - 120
@@ -77,7 +78,7 @@ Rectangle {
                     levelColors: page.levelColors
                 }
             }
-            Text {
+            T.Label {
                 x: 16
                 topPadding: 12
                 text: "Worst hour of each day"

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One day of the history: the day, its worst level in that level's colour and
@@ -23,7 +24,7 @@ Rectangle {
         anchors.verticalCenter: parent.verticalCenter
         width: parent.width * 0.36
 
-        Text {
+        T.Label {
             width: parent.width
             elide: Text.ElideRight
             text: row.dayName
@@ -31,7 +32,7 @@ Rectangle {
             font.weight: Font.DemiBold
             color: Theme.label
         }
-        Text {
+        T.Label {
             text: row.date
             font.pixelSize: Theme.captionSize
             color: Theme.secondaryLabel
@@ -51,7 +52,7 @@ Rectangle {
             radius: 7
             color: row.levelColor
         }
-        Text {
+        T.Label {
             objectName: "levelName"
             text: row.levelName
             font.pixelSize: 15
@@ -64,13 +65,13 @@ Rectangle {
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
 
-        Text {
+        T.Label {
             anchors.right: parent.right
             text: "worst at"
             font.pixelSize: Theme.captionSize
             color: Theme.secondaryLabel
         }
-        Text {
+        T.Label {
             objectName: "peak"
             anchors.right: parent.right
             text: row.peak

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // Why the history screen has nothing to draw: a symbol, a heading and a line
@@ -19,7 +20,7 @@ Column {
         color: Theme.gray
         size: 48
     }
-    Text {
+    T.Label {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap
@@ -28,7 +29,7 @@ Column {
         font.weight: Font.DemiBold
         color: Theme.label
     }
-    Text {
+    T.Label {
         width: parent.width
         horizontalAlignment: Text.AlignHCenter
         wrapMode: Text.Wrap

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // Tips for bad-air days on the dashboard: a row of cards to swipe through,
@@ -12,7 +12,7 @@ Column {
 
     spacing: 8
 
-    Text {
+    T.Label {
         text: "CATEGORY INSIGHTS"
         Accessible.role: Accessible.Heading
         Accessible.name: text
@@ -25,7 +25,7 @@ Column {
         width: parent.width
         height: Math.max(prompt.implicitHeight, showLess.implicitHeight)
 
-        Text {
+        T.Label {
             id: prompt
             anchors.verticalCenter: parent.verticalCenter
             text: "Tap to learn more"
@@ -34,7 +34,7 @@ Column {
             color: Theme.kOthers
         }
 
-        Button {
+        PlainButton {
             id: showLess
             objectName: "showLess"
             anchors.right: parent.right
@@ -69,10 +69,15 @@ Column {
         orientation: ListView.Horizontal
         spacing: 12
         clip: true
+        // The cards beyond the right edge are made ready for a swipe only
+        // once the first frame is out.
+        cacheBuffer: FirstFrameGate.open ? 320 : 0
         model: HealthTipsModel {}
 
         delegate: TipCard {
             objectName: "tipCard_" + index
+            // A card reached with Tab comes into view.
+            onActiveFocusChanged: if (activeFocus) cards.positionViewAtIndex(index, ListView.Contain)
             width: 156
             height: cards.height
             image: model.image

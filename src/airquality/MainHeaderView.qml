@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
-import QtQuick.Layouts 1.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // How clean the air is at the user's position: the status of its index on the
@@ -40,7 +39,7 @@ Rectangle {
                 color: Theme.white
                 size: 16
             }
-            Text {
+            T.Label {
                 objectName: "townName"
                 width: Math.min(implicitWidth, parent.width - locationIcon.width - dateText.width - 2 * parent.spacing)
                 elide: Text.ElideRight
@@ -49,7 +48,7 @@ Rectangle {
                 font.bold: true
                 color: Theme.white
             }
-            Text {
+            T.Label {
                 id: dateText
                 objectName: "todayDate"
                 text: new Date().toLocaleDateString(Qt.locale(), Locale.LongFormat)
@@ -65,7 +64,7 @@ Rectangle {
         }
 
         // Until an answer comes, what an earlier run last saw.
-        Text {
+        T.Label {
             objectName: "lastReading"
             visible: text !== ""
             width: parent.width
@@ -75,7 +74,7 @@ Rectangle {
             color: Theme.white
         }
 
-        Text {
+        T.Label {
             objectName: "refreshProblem"
             visible: text !== ""
             width: parent.width
@@ -86,22 +85,30 @@ Rectangle {
             color: Theme.white
         }
 
-        RowLayout {
+        Item {
             width: parent.width
+            height: Math.max(updatedText.implicitHeight, historyLink.implicitHeight)
 
-            Text {
+            T.Label {
+                id: updatedText
                 objectName: "updatedText"
-                Layout.fillWidth: true
+                anchors.left: parent.left
+                anchors.right: historyLink.left
+                anchors.rightMargin: 5
+                anchors.verticalCenter: parent.verticalCenter
                 elide: Text.ElideRight
                 text: header.model.updatedText
                 font.pixelSize: Theme.captionSize + 1
                 color: Theme.white
                 opacity: 0.8
             }
-            AbstractButton {
+            PlainButton {
                 id: historyLink
                 objectName: "historyLink"
-                Layout.alignment: Qt.AlignRight | Qt.AlignVCenter
+                // Whole pixels, as a layout would place it: its text stays sharp.
+                width: Math.ceil(implicitWidth)
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
                 padding: 4
                 text: "Past 7 days \u203A"
                 Accessible.role: Accessible.Link

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // The dashboard: how clean the air is where the user stands, and the weather.
@@ -22,7 +23,7 @@ Flickable {
         }
     }
 
-    Text {
+    T.Label {
         objectName: "pullHint"
         anchors.horizontalCenter: parent.horizontalCenter
         y: -height - 8

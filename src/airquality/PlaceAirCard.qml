@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
@@ -23,7 +24,7 @@ Rectangle {
         width: parent.width - 24
         spacing: 8
 
-        Text {
+        T.Label {
             id: title
             objectName: "placeAirTitle"
             width: parent.width
@@ -42,7 +43,7 @@ Rectangle {
                 height: 24
                 running: parent.visible
             }
-            Text {
+            T.Label {
                 anchors.verticalCenter: parent.verticalCenter
                 text: "Getting the air here…"
                 font.pixelSize: Theme.captionSize + 2
@@ -50,7 +51,7 @@ Rectangle {
             }
         }
 
-        Text {
+        T.Label {
             objectName: "placeAirFailure"
             visible: card.model.phase === PlaceAirCardModel.Failed
             width: parent.width
@@ -77,7 +78,7 @@ Rectangle {
                 source: card.model
             }
             // One line, so that the card leaves the pin in view.
-            Text {
+            T.Label {
                 objectName: "placeAirWeather"
                 width: parent.width
                 wrapMode: Text.Wrap
@@ -86,7 +87,7 @@ Rectangle {
                 font.pixelSize: Theme.captionSize + 1
                 color: Theme.white
             }
-            Text {
+            T.Label {
                 objectName: "placeAirSaved"
                 visible: card.model.savesToHistory
                 width: parent.width

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One pollutant: its name, its reading with the unit, and a marker where the
@@ -25,7 +26,7 @@ Rectangle {
         padding: 12
         spacing: 6
 
-        Text {
+        T.Label {
             id: titleText
             objectName: "title"
             width: parent.width - 2 * parent.padding
@@ -34,7 +35,7 @@ Rectangle {
             font.weight: Font.DemiBold
             color: Theme.white
         }
-        Text {
+        T.Label {
             objectName: "value"
             width: parent.width - 2 * parent.padding
             text: card.model.value

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One reading on a dashboard panel: a small label over its value.
@@ -15,14 +16,14 @@ Rectangle {
         anchors.centerIn: parent
         spacing: 4
 
-        Text {
+        T.Label {
             id: labelText
             anchors.horizontalCenter: parent.horizontalCenter
             font.pixelSize: Theme.captionSize
             font.bold: true
             color: Theme.white
         }
-        Text {
+        T.Label {
             id: valueText
             anchors.horizontalCenter: parent.horizontalCenter
             font.pixelSize: Theme.bodySize

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // One health recommendation: its picture beside its title and text.
@@ -31,7 +32,7 @@ Rectangle {
         y: 12
         spacing: 4
 
-        Text {
+        T.Label {
             id: titleText
             objectName: "title"
             width: parent.width
@@ -40,7 +41,7 @@ Rectangle {
             font.bold: true
             color: Theme.label
         }
-        Text {
+        T.Label {
             id: bodyText
             objectName: "text"
             width: parent.width

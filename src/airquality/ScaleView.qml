@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // The index scale for reference: each category's colour, name, range and
@@ -18,7 +19,7 @@ Flickable {
         bottomPadding: 16
         spacing: 4
 
-        Text {
+        T.Label {
             objectName: "title"
             text: "The AQI Index Scale"
             font.pixelSize: Theme.titleSize

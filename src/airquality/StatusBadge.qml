@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // An index's status on its colour: "AQI" over the value, the status beside it.
@@ -22,14 +23,14 @@ Rectangle {
         anchors.leftMargin: 16
         anchors.verticalCenter: parent.verticalCenter
 
-        Text {
+        T.Label {
             text: "AQI"
             font.pixelSize: Theme.captionSize
             font.bold: true
             font.letterSpacing: 1
             color: badge.source.statusTextColor
         }
-        Text {
+        T.Label {
             objectName: "aqiValue"
             text: badge.source.aqiValue
             font.pixelSize: badge.valueSize
@@ -38,7 +39,7 @@ Rectangle {
         }
     }
 
-    Text {
+    T.Label {
         id: statusText
         objectName: "aqiStatus"
         anchors.left: valueColumn.right

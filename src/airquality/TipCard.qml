@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // A tip on the dashboard: its picture, title and short text; turned over, the
@@ -10,7 +11,7 @@ Rectangle {
     property alias image: picture.name
     property alias title: titleText.text
     property alias shortText: shortText.text
-    property alias longText: longText.text
+    property string longText
     property bool turned
 
     signal clicked()
@@ -45,7 +46,7 @@ Rectangle {
         color: Theme.kPrimary
         Behavior on y { NumberAnimation { duration: Theme.defaultAnimationDuration; easing.type: Easing.InOutQuad } }
 
-        Text {
+        T.Label {
             id: titleText
             objectName: "title"
             width: parent.width
@@ -59,7 +60,7 @@ Rectangle {
         }
     }
 
-    Text {
+    T.Label {
         id: shortText
         objectName: "shortText"
         anchors.top: titleBand.bottom
@@ -77,21 +78,26 @@ Rectangle {
         opacity: picture.opacity
     }
 
-    Text {
-        id: longText
-        objectName: "longText"
+    // The back face: built the first time the card turns, as most never do.
+    FirstUseLoader {
         anchors.top: titleBand.bottom
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 5
         width: parent.width
-        padding: shortText.padding
-        leftPadding: shortText.leftPadding
-        rightPadding: shortText.rightPadding
-        wrapMode: Text.WordWrap
-        elide: Text.ElideRight
-        font: shortText.font
-        color: Theme.kOthers
-        opacity: 1 - picture.opacity
+        wanted: card.turned
+
+        sourceComponent: Text {
+            objectName: "longText"
+            padding: shortText.padding
+            leftPadding: shortText.leftPadding
+            rightPadding: shortText.rightPadding
+            wrapMode: Text.WordWrap
+            elide: Text.ElideRight
+            text: card.longText
+            font: shortText.font
+            color: Theme.kOthers
+            opacity: 1 - picture.opacity
+        }
     }
 
     MouseArea {

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import QtQuick.Controls 2.15
 import QtQuick.Layouts 1.15
 import Tarnelo 1.0
@@ -37,13 +38,13 @@ Item {
             Column {
                 spacing: 4
 
-                Text {
+                T.Label {
                     text: "POLLUTANTS"
                     font.pixelSize: Theme.headlineSize
                     font.bold: true
                     color: Theme.label
                 }
-                Text {
+                T.Label {
                     text: "Volatile organic compounds (VOCs gases)"
                     font.pixelSize: Theme.captionSize + 3
                     color: Theme.kOthers

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // What a search found, on a white panel over the dimmed map: the place's
@@ -46,7 +47,7 @@ Item {
             width: 300
             spacing: 8
 
-            Text {
+            T.Label {
                 objectName: "placeName"
                 width: parent.width
                 wrapMode: Text.Wrap
@@ -55,7 +56,7 @@ Item {
                 font.weight: Font.DemiBold
                 color: Theme.label
             }
-            Text {
+            T.Label {
                 objectName: "placeAddress"
                 width: parent.width
                 wrapMode: Text.Wrap
@@ -63,13 +64,13 @@ Item {
                 font.pixelSize: Theme.bodySize - 2
                 color: Theme.secondaryLabel
             }
-            Text {
+            T.Label {
                 objectName: "placeLatitude"
                 text: sheet.details.latitudeText
                 font.pixelSize: Theme.bodySize
                 color: Theme.label
             }
-            Text {
+            T.Label {
                 objectName: "placeLongitude"
                 text: sheet.details.longitudeText
                 font.pixelSize: Theme.bodySize

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "location/LocationService.h"
 
+#include "common/AfterFirstFrame.h"
 #include "location/PositionSourceFactory.h"
 
 #include <QGeoPositionInfoSource>
@@ -14,16 +15,31 @@ LocationService::LocationService(QObject *parent)
 LocationService::LocationService(const PositionSetting &setting, QObject *parent)
     : QObject(parent)
     , m_setting(setting)
-    , m_source(createPositionSource(setting, this))
 {
-    if (!m_source)
-        return;
-    connect(m_source, &QGeoPositionInfoSource::positionUpdated, this, [this](const QGeoPositionInfo &info) {
-        if (info.isValid())
-            Q_EMIT locationsUpdated({ info });
-    });
-    connect(m_source, QOverload<QGeoPositionInfoSource::Error>::of(&QGeoPositionInfoSource::error), this,
-            [this](QGeoPositionInfoSource::Error error) { onSourceError(error); });
+    // A device's source loads a plugin and reaches the system's location
+    // service, a replayed log reads its file: the first frame does not wait
+    // for them. A fixed position is there at once and costs nothing.
+    if (setting.source == PositionSetting::Source::Fixed)
+        attachSource();
+    else
+        AfterFirstFrame::run(this, [this] { attachSource(); });
+}
+
+void LocationService::attachSource()
+{
+    m_source = createPositionSource(m_setting, this);
+    m_sourceChosen = true;
+    if (m_source) {
+        connect(m_source, &QGeoPositionInfoSource::positionUpdated, this, [this](const QGeoPositionInfo &info) {
+            if (info.isValid())
+                Q_EMIT locationsUpdated({ info });
+        });
+        connect(m_source, QOverload<QGeoPositionInfoSource::Error>::of(&QGeoPositionInfoSource::error), this,
+                [this](QGeoPositionInfoSource::Error error) { onSourceError(error); });
+        applyAccuracy();
+    }
+    if (m_authorizationAsked)
+        decideAuthorization();
 }
 
 bool LocationService::locationServicesEnabled()
@@ -38,10 +54,17 @@ bool LocationService::isAuthorized(AuthorizationStatus status)
 
 void LocationService::requestWhenInUseAuthorization()
 {
-    if (m_status != AuthorizationStatus::NotDetermined)
+    if (m_status != AuthorizationStatus::NotDetermined || m_authorizationAsked)
         return;
+    m_authorizationAsked = true;
+    if (m_sourceChosen)
+        decideAuthorization();
+}
+
+// The answer comes later, as a person's tap on a permission prompt would.
+void LocationService::decideAuthorization()
+{
     const bool refused = m_setting.source == PositionSetting::Source::Denied || m_setting.source == PositionSetting::Source::None || !m_source;
-    // The answer comes later, as a person's tap on a permission prompt would.
     QTimer::singleShot(0, this, [this, refused] {
         if (m_status == AuthorizationStatus::NotDetermined)
             changeAuthorization(refused ? AuthorizationStatus::Denied : AuthorizationStatus::AuthorizedWhenInUse);
@@ -50,9 +73,15 @@ void LocationService::requestWhenInUseAuthorization()
 
 void LocationService::setDesiredAccuracy(Accuracy accuracy)
 {
-    if (m_source)
-        m_source->setPreferredPositioningMethods(accuracy == Accuracy::Best ? QGeoPositionInfoSource::SatellitePositioningMethods
-                                                                            : QGeoPositionInfoSource::AllPositioningMethods);
+    m_accuracy = accuracy;
+    applyAccuracy();
+}
+
+void LocationService::applyAccuracy()
+{
+    if (m_source && m_accuracy)
+        m_source->setPreferredPositioningMethods(*m_accuracy == Accuracy::Best ? QGeoPositionInfoSource::SatellitePositioningMethods
+                                                                               : QGeoPositionInfoSource::AllPositioningMethods);
 }
 
 void LocationService::startUpdatingLocation()

@@ -7,6 +7,8 @@
 #include <QList>
 #include <QObject>
 
+#include <optional>
+
 class QGeoPositionInfoSource;
 
 // The device's location service as each provider owns one: authorisation,
@@ -45,13 +47,20 @@ Q_SIGNALS:
     void failedWithError(const QString &description);
 
 private:
+    void attachSource();
+    void decideAuthorization();
+    void applyAccuracy();
     void changeAuthorization(AuthorizationStatus status);
     void onSourceError(int error);
     void applyUpdates();
 
     PositionSetting m_setting;
     QGeoPositionInfoSource *m_source = nullptr;
+    std::optional<Accuracy> m_accuracy;
     AuthorizationStatus m_status = AuthorizationStatus::NotDetermined;
+    // Whether the source, or that there is none, is known yet.
+    bool m_sourceChosen = false;
+    bool m_authorizationAsked = false;
     bool m_wantsUpdates = false;
     bool m_sourceRunning = false;
 };

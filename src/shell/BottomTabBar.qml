@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // The five destinations along the bottom; the selected one in blue.
@@ -35,7 +35,7 @@ Rectangle {
         Repeater {
             model: bar.names.length
 
-            AbstractButton {
+            PlainButton {
                 id: tab
 
                 readonly property color tint: index === bar.selectedIndex ? Theme.blue : Theme.tertiaryLabel
@@ -56,7 +56,7 @@ Rectangle {
                         size: 30
                         color: tab.tint
                     }
-                    Text {
+                    T.Label {
                         anchors.horizontalCenter: parent.horizontalCenter
                         text: bar.names[index]
                         font.pixelSize: Theme.captionSize

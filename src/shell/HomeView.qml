@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
 // The spine of the interface: navigation bar, one destination, the bottom tabs
@@ -124,22 +123,33 @@ Item {
         }
     }
 
-    SideMenuView {
+    // The menu's place and slide; what it lists is built the first time it
+    // opens, as nobody sees it before.
+    Item {
         id: sideMenu
         objectName: "sideMenu"
         anchors.top: navigationBar.bottom
         anchors.bottom: parent.bottom
+        width: 220
         z: 1
         x: home.model.isSideMenuOpen ? 0 : -width - 6
         visible: x > -width - 6
-        sideMenuItems: home.model.sideMenuItems
-        additionalItems: home.model.additionalTextItems
-        selectedMenuItem: home.model.selectedMenuItem
-        user_name: home.model.user_name
-        onItemTapped: home.model.selectMenuItem(name)
-        onAdditionalItemTapped: home.model.tapAdditionalItem(text)
 
         Behavior on x { NumberAnimation { duration: Theme.defaultAnimationDuration; easing.type: Easing.InOutQuad } }
+
+        FirstUseLoader {
+            anchors.fill: parent
+            wanted: home.model.isSideMenuOpen
+
+            sourceComponent: SideMenuView {
+                sideMenuItems: home.model.sideMenuItems
+                additionalItems: home.model.additionalTextItems
+                selectedMenuItem: home.model.selectedMenuItem
+                user_name: home.model.user_name
+                onItemTapped: home.model.selectMenuItem(name)
+                onAdditionalItemTapped: home.model.tapAdditionalItem(text)
+            }
+        }
     }
 
     NotificationAlert {

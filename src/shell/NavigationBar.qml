@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // Title of the current destination between the menu button and the user button.
@@ -25,7 +25,7 @@ Rectangle {
         onClicked: bar.menuTapped()
     }
 
-    Text {
+    T.Label {
         id: titleText
         anchors.centerIn: parent
         width: parent.width - 140

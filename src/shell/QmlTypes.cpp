@@ -23,6 +23,7 @@
 #include "airquality/ScaleAdvisories.h"
 #include "airquality/TipsViewModel.h"
 #include "location/SearchLocationViewModel.h"
+#include "shell/FirstFrameGate.h"
 #include "shell/HomeViewModel.h"
 #include "shell/RootController.h"
 #include "shell/SymbolImageProvider.h"
@@ -41,6 +42,7 @@ void QmlTypes::registerAll(QQmlEngine &engine, RootController *rootController)
 {
     qmlRegisterSingletonType(QUrl(QStringLiteral("qrc:/qml/Theme.qml")), uri, major, minor, "Theme");
     qmlRegisterSingletonInstance(uri, major, minor, "RootController", rootController);
+    qmlRegisterSingletonType<FirstFrameGate>(uri, major, minor, "FirstFrameGate", [](QQmlEngine *, QJSEngine *) -> QObject * { return new FirstFrameGate; });
     qmlRegisterUncreatableType<AccountScreenModel>(uri, major, minor, "AccountScreenModel", QStringLiteral("Each account screen has its own model"));
     qmlRegisterType<LoginViewModel>(uri, major, minor, "LoginViewModel");
     qmlRegisterType<ProfileMedicalViewModel>(uri, major, minor, "ProfileMedicalViewModel");

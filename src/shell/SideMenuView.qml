@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
+import QtQuick.Templates 2.15 as T
 import Tarnelo 1.0
 
 // The side menu: who is signed in, the destinations, and the footer lines.
@@ -43,7 +43,7 @@ Rectangle {
                 size: 50
                 color: Theme.gray
             }
-            Text {
+            T.Label {
                 objectName: "userName"
                 anchors.verticalCenter: parent.verticalCenter
                 width: menu.width - 90
@@ -67,7 +67,7 @@ Rectangle {
 
             // A plain button rather than a list delegate: a list item offers
             // no press action to a screen reader.
-            AbstractButton {
+            PlainButton {
                 objectName: "menuItem_" + modelData.name
                 text: modelData.name
                 Accessible.name: text
@@ -88,14 +88,14 @@ Rectangle {
                         size: 20
                         color: Theme.label
                     }
-                    Text {
+                    T.Label {
                         anchors.verticalCenter: parent.verticalCenter
                         width: header.width - 84
                         text: parent.parent.text
                         font.pixelSize: Theme.bodySize
                         color: Theme.label
                     }
-                    Text {
+                    T.Label {
                         objectName: "tick"
                         anchors.verticalCenter: parent.verticalCenter
                         visible: modelData.name === menu.selectedMenuItem
@@ -128,7 +128,7 @@ Rectangle {
             Repeater {
                 model: menu.additionalItems
 
-                AbstractButton {
+                PlainButton {
                     objectName: "footer_" + modelData
                     text: modelData
                     Accessible.name: text

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import Tarnelo 1.0
 
 // A symbol at title size that acts as a button.
-AbstractButton {
+PlainButton {
     id: button
 
     property string symbol

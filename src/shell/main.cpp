@@ -1,10 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "airquality/DesktopNotifier.h"
+#include "common/AfterFirstFrame.h"
 #include "location/SearchLocationViewModel.h"
 #include "shell/AppOptions.h"
 #include "shell/FirstFrameClock.h"
 #include "shell/HomeViewModel.h"
 #include "shell/QmlTypes.h"
+#include "shell/ReturnPressesButtons.h"
 #include "shell/RootController.h"
 #include "shell/ScreenshotWriter.h"
 #include "shell/SelfTest.h"
@@ -13,6 +15,10 @@
 #include <QFont>
 #include <QQmlApplicationEngine>
 #include <QQuickWindow>
+#include <QTimer>
+
+#include <chrono>
+#include <memory>
 
 namespace
 {
@@ -24,6 +30,22 @@ void chooseHeadlessWhenNoDisplay()
         qputenv("QT_QPA_PLATFORM", "offscreen");
         qputenv("QT_QUICK_BACKEND", "software");
     }
+}
+
+// What waits for the first frame starts on the GUI thread just after it, or
+// after a while without one: a window started minimised may not draw at all.
+void releaseAfterFirstFrame(QQuickWindow *window)
+{
+    QTimer::singleShot(std::chrono::seconds(2), window, [] { AfterFirstFrame::release(); });
+    const auto once = std::make_shared<QMetaObject::Connection>();
+    *once = QObject::connect(
+        window, &QQuickWindow::frameSwapped, window,
+        [once] {
+            // Later frames may have queued their call before this one ran.
+            if (QObject::disconnect(*once))
+                AfterFirstFrame::release();
+        },
+        Qt::QueuedConnection);
 }
 } // namespace
 
@@ -40,6 +62,7 @@ int main(int argc, char *argv[])
     QGuiApplication::setDesktopFileName(QStringLiteral("org.tarnelo.Tarnelo"));
     QGuiApplication::setFont(QFont(QStringLiteral("Inter")));
     const AppOptions options = AppOptions::parse(app);
+    app.installEventFilter(new ReturnPressesButtons(&app));
 
     RootController rootController;
     if (!options.destination.isEmpty())
@@ -60,10 +83,12 @@ int main(int argc, char *argv[])
     if (options.selfTest)
         return SelfTest::run(engine);
 
+    AfterFirstFrame::hold();
     engine.load(QUrl(QStringLiteral("qrc:/qml/TarneloApp.qml")));
     auto *window = engine.rootObjects().isEmpty() ? nullptr : qobject_cast<QQuickWindow *>(engine.rootObjects().constFirst());
     if (!window)
         return 1;
+    releaseAfterFirstFrame(window);
     if (options.windowSize.isValid())
         window->resize(options.windowSize);
     // Activating an air alert brings the dashboard to the front.

@@ -4,6 +4,7 @@
 // text field has a name, and a password field never hands its text over.
 #include "shell/HomeDestinations.h"
 #include "shell/QmlTypes.h"
+#include "shell/ReturnPressesButtons.h"
 #include "shell/RootController.h"
 #include "storage/SQliteLogin.h"
 
@@ -183,6 +184,13 @@ void walk(QAccessibleInterface *node, Findings &findings)
     for (int i = 0; i < node->childCount(); ++i)
         walk(node->child(i), findings);
 }
+// Reading order: further down, or on the same line further right. Lines are
+// told apart by whether the two items overlap vertically.
+bool readsAfter(const QRectF &earlier, const QRectF &later)
+{
+    const bool sameLine = later.top() < earlier.bottom() && earlier.top() < later.bottom();
+    return sameLine ? later.left() >= earlier.left() : later.top() >= earlier.top();
+}
 } // namespace
 
 class AccessibleTreeTest : public QObject
@@ -216,6 +224,7 @@ private Q_SLOTS:
         QStandardPaths::setTestModeEnabled(true);
         QCoreApplication::setApplicationName(QStringLiteral("tarnelo-tests-accessible-tree"));
         QDir(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)).removeRecursively();
+        qApp->installEventFilter(new ReturnPressesButtons(qApp));
         m_engine = std::make_unique<QQmlEngine>();
         QmlTypes::registerAll(*m_engine, &m_rootController);
     }
@@ -267,6 +276,71 @@ private Q_SLOTS:
         checkTappableAreas(window.contentItem(), findings);
         qInfo("%s: %d controls checked", QTest::currentDataTag(), findings.controls);
         QVERIFY2(findings.problems.isEmpty(), qPrintable(findings.problems.join(QLatin1String("\n  "))));
+    }
+
+    void tabFollowsReadingOrder_data() { everyControlIsNamedAndPressable_data(); }
+
+    // Tab visits what is on screen, top to bottom and left to right within a
+    // line, and never a control that is out of sight, such as the closed side menu.
+    void tabFollowsReadingOrder()
+    {
+        QFETCH(QString, view);
+        QFETCH(bool, signedIn);
+        SQliteLogin().deleteAll();
+        if (signedIn)
+            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
+                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+        QQuickWindow window;
+        const std::unique_ptr<QQuickItem> screen = show(window, view);
+        QVERIFY(screen);
+        window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        QList<QQuickItem *> visited;
+        QStringList problems;
+        QRectF previous;
+        for (int step = 0; step < 80; ++step) {
+            QTest::keyClick(&window, Qt::Key_Tab);
+            QQuickItem *focused = window.activeFocusItem();
+            if (!focused || focused == window.contentItem() || visited.contains(focused))
+                break;
+            visited << focused;
+            const QRectF box = focused->mapRectToScene(focused->boundingRect());
+            if (!focused->isVisible() || box.right() <= 0 || box.left() >= window.width())
+                problems << QStringLiteral("Tab reaches a control out of sight: ") + focused->objectName();
+            else if (!previous.isNull() && !readsAfter(previous, box))
+                problems << QStringLiteral("Tab goes back up or left to: %1 at %2,%3").arg(focused->objectName()).arg(box.x()).arg(box.y());
+            previous = box;
+        }
+        QVERIFY2(problems.isEmpty(), qPrintable(problems.join(QLatin1String("\n  "))));
+    }
+
+    // Enter and Return press the focused button as Space does; in a text
+    // field Return still ends the input.
+    void returnPressesTheFocusedButton()
+    {
+        QQmlComponent component(m_engine.get());
+        component.setData("import QtQuick 2.15\nimport QtQuick.Controls 2.15\n"
+                          "Column { property int presses; property int submissions\n"
+                          "  Button { objectName: \"button\"; text: \"Go\"; onClicked: presses++ }\n"
+                          "  TextField { objectName: \"field\"; onAccepted: submissions++ } }",
+                          QUrl());
+        std::unique_ptr<QQuickItem> column(qobject_cast<QQuickItem *>(component.create()));
+        QVERIFY2(column, qPrintable(component.errorString()));
+        QQuickWindow window;
+        column->setParentItem(window.contentItem());
+        window.show();
+        window.requestActivate();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+
+        findItem(column.get(), QStringLiteral("button"))->forceActiveFocus();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QTest::keyClick(&window, Qt::Key_Enter);
+        QCOMPARE(column->property("presses").toInt(), 2);
+        findItem(column.get(), QStringLiteral("field"))->forceActiveFocus();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QCOMPARE(column->property("submissions").toInt(), 1);
+        QCOMPARE(column->property("presses").toInt(), 2);
     }
 
     // Pressing through the interface does what a tap does, on a control
