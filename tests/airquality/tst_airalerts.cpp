@@ -3,6 +3,7 @@
 #include "airquality/AlertThreshold.h"
 #include "airquality/MainHeaderViewModel.h"
 #include "airquality/ReadingAge.h"
+#include "airquality/ScaleAdvisories.h"
 #include "common/ScriptedResponder.h"
 #include "records/ProfileMedDetailsModel.h"
 #include "storage/SQliteLogin.h"
@@ -117,9 +118,7 @@ private Q_SLOTS:
             monitor.check(QString::fromLatin1(category), QStringLiteral("Nairobi"));
         QCOMPARE(alerted.count(), 2);
         QTRY_COMPARE(m_service.received.size(), 2);
-        QCOMPARE(m_service.received.first(),
-                 QStringLiteral("Tarnelo|Unhealthy air in Nairobi|Children, active adults, and people with respiratory disease, "
-                                "such as asthma, should avoid outdoor exertion;everyone else should limit prolonged outdoor exertion."));
+        QCOMPARE(m_service.received.first(), QStringLiteral("Tarnelo|Unhealthy air in Nairobi|") + ScaleAdvisories::advisory(4));
         const QList<ReceivedAlert> kept = store.receivedAlerts(QStringLiteral("f00d"));
         QCOMPARE(kept.size(), 2);
         QCOMPARE(kept.first().category, 2);
@@ -127,6 +126,21 @@ private Q_SLOTS:
         SQliteLogin().deleteAll();
         QCOMPARE(store.receivedAlerts(QStringLiteral("f00d")).size(), 0);
         QVERIFY(!store.settings(QStringLiteral("f00d")).enabled);
+    }
+
+    // Alerts belong to the first user the device holds; any level of the scale
+    // is kept, and each user's newest 50 alerts.
+    void storeKeepsEveryLevelAndTheNewestFifty()
+    {
+        signIn(true, 6);
+        SQliteLogin().insert(QStringLiteral("beef"), QStringLiteral("Bo"), {}, {}, {}, {}, {});
+        AlertStore store;
+        QCOMPARE(store.signedInUser(), QStringLiteral("f00d"));
+        QCOMPARE(store.settings(QStringLiteral("f00d")).level.value_or(0), 6);
+        for (int i = 0; i < 51; ++i)
+            store.addReceivedAlert(QStringLiteral("f00d"), { QDateTime::currentDateTimeUtc(), 4, QStringLiteral("Nairobi") });
+        QCOMPARE(store.receivedAlerts(QStringLiteral("f00d")).size(), 50);
+        SQliteLogin().deleteAll();
     }
 
     // The 30-minute check sends the dashboard's request again only with alerts on.

@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "common/ScriptedResponder.h"
 #include "common/QuickTestSetup.h"
+#include "common/ScriptedResponder.h"
 
 #include <QtQuickTest>
 
-// Every air-quality request the header sends gets one reading of category 4.
+// Every air-quality request gets one reading of category 4, every weather
+// request one reading.
 class AirQualityScreensSetup : public QuickTestSetup
 {
 public:
     AirQualityScreensSetup()
     {
         m_responder.answer("/tarnelo/v1/airquality.php", 200,
-                           R"([{"id":"1","aqi":"4","co":"1201.6","no":"12.3","no2":"58.9","o3":"41","so2":"19.7","pm25":"88.4","pm10":"121","nh3":"6.2"}])");
+                           R"([{"id":"1","aqi":"4","co":"230.5","no":"0.4","no2":"21","o3":"80","so2":"2.1","pm25":"38.2","pm10":"51","nh3":"1.5"}])");
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 200, R"([{"id":"1","temp":"297.4","humid":"64","wind":"11","uv":"6","pollen":"Moderate"}])");
         qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8());
     }
 

@@ -36,7 +36,7 @@ private Q_SLOTS:
         qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8());
     }
 
-    void headerShowsTheFirstReadingAndKeepsItOnEmptyOrBadAnswers()
+    void headerShowsTheFirstReadingAndKeepsItOnAnEmptyAnswer()
     {
         MainHeaderViewModel header;
         QCOMPARE(text(header, "txt_status"), QStringLiteral("AQI Status"));
@@ -55,9 +55,8 @@ private Q_SLOTS:
         QCOMPARE(text(header, "txt_aqi"), QStringLiteral("3"));
         QCOMPARE(text(header, "txt_pm25"), QStringLiteral("38.2"));
         QCOMPARE(text(header, "txt_nh3"), QStringLiteral("1.5"));
+        // What each category reads as is tst_aqicategories'; here only that it is applied.
         QCOMPARE(text(header, "txt_status"), QStringLiteral("Unhealthy for sensitive groups"));
-        QCOMPARE(text(header, "aqiValue"), QStringLiteral("200"));
-        QCOMPARE(header.property("statusTextColor").value<QColor>(), QColor(Qt::black));
 
         // An empty answer classifies again whatever category is held by then.
         header.setProperty("txt_aqi", QStringLiteral("6"));
@@ -65,32 +64,32 @@ private Q_SLOTS:
         header.showPosition(1, 2);
         QVERIFY(statusChanged.wait());
         QCOMPARE(text(header, "txt_status"), QStringLiteral("Hazardous"));
-        QCOMPARE(text(header, "aqiValue"), QStringLiteral("500"));
-        QCOMPARE(header.property("statusColor").value<QColor>(), QColor(0xAF52DE));
         QCOMPARE(text(header, "txt_co"), QStringLiteral("230.5"));
+    }
 
-        m_responder.answer("/tarnelo/v1/airquality.php", 200, R"([{"id":"1","aqi":4}])");
-        QStringList lines;
-        {
-            StdoutCapture capture;
-            header.showPosition(1, 2);
-            (void)QTest::qWaitFor([&] { return !(lines += capture.takeLines()).isEmpty(); }, 5000);
-        }
-        QCOMPARE(lines.value(0).left(23), QStringLiteral("Failed to decode data: "));
-        QCOMPARE(changed.count(), 2);
-        QCOMPARE(statusChanged.count(), 2);
-        QCOMPARE(text(header, "txt_aqi"), QStringLiteral("6"));
-        QCOMPARE(text(header, "txt_status"), QStringLiteral("Hazardous"));
-        QCOMPARE(text(header, "txt_co"), QStringLiteral("230.5"));
+    void weatherShowsWholeDegreesCelsius_data()
+    {
+        QTest::addColumn<QString>("kelvin");
+        QTest::addColumn<QString>("celsius");
+        QTest::newRow("warm") << QStringLiteral("300.65") << QStringLiteral("28.0°C");
+        QTest::newRow("freezing") << QStringLiteral("273.15") << QStringLiteral("0.0°C");
+        // Only the exact offset keeps 10.45 below the half.
+        QTest::newRow("the offset's fraction decides") << QStringLiteral("283.6") << QStringLiteral("10.0°C");
+        QTest::newRow("below zero") << QStringLiteral("255.4") << QStringLiteral("-18.0°C");
+        QTest::newRow("not a number") << QStringLiteral("warm") << QString();
     }
 
     void weatherShowsWholeDegreesCelsius()
     {
-        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("300.65")), QStringLiteral("28.0°C"));
-        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("273.15")), QStringLiteral("0.0°C"));
-        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("255.4")), QStringLiteral("-18.0°C"));
-        QCOMPARE(MainWeatherViewModel::celsiusTextFor(QStringLiteral("warm")), std::nullopt);
+        QFETCH(QString, kelvin);
+        QFETCH(QString, celsius);
+        QCOMPARE(MainWeatherViewModel::celsiusTextFor(kelvin).value_or(QString()), celsius);
+    }
 
+    // The initial 22 K until the first answer; then a temperature that is not
+    // a number, or an answer that does not decode, keeps the one shown.
+    void weatherPanelShowsItsReadingUntilAGoodOneComes()
+    {
         MainWeatherViewModel panel;
         QCOMPARE(text(panel, "celsiusText"), QStringLiteral("-251.0°C"));
         m_responder.answer("/tarnelo/v1/weatherapi.php", 200, weather);
@@ -101,16 +100,20 @@ private Q_SLOTS:
         QCOMPARE(text(panel, "txt_pollen"), QStringLiteral("High"));
 
         m_responder.answer("/tarnelo/v1/weatherapi.php", 200, R"([{"id":"1","temp":"hot","humid":"61","wind":"14","uv":"7","pollen":"High"}])");
+        panel.showPosition(51.5074, -0.1278);
+        QVERIFY(changed.wait());
+        QCOMPARE(text(panel, "txt_temp"), QStringLiteral("hot"));
+        QCOMPARE(text(panel, "celsiusText"), QStringLiteral("28.0°C"));
+
+        m_responder.answer("/tarnelo/v1/weatherapi.php", 200, R"([{"id":"1","temp":300}])");
         QStringList lines;
         {
             StdoutCapture capture;
             panel.showPosition(51.5074, -0.1278);
-            (void)changed.wait();
-            lines = capture.takeLines();
+            (void)QTest::qWaitFor([&] { return !(lines += capture.takeLines()).filter(QStringLiteral("Failed")).isEmpty(); }, 5000);
         }
-        QCOMPARE(lines.size(), 1);
+        QCOMPARE(lines.filter(QStringLiteral("Failed")).value(0).left(23), QStringLiteral("Failed to decode data: "));
         QCOMPARE(text(panel, "txt_temp"), QStringLiteral("hot"));
-        QCOMPARE(text(panel, "celsiusText"), QStringLiteral("28.0°C"));
     }
 
     // A signed-in user's search: both readings at the place, then one log of
@@ -128,13 +131,9 @@ private Q_SLOTS:
         const QString log = QStringLiteral("/tarnelo/v1/locationlogs.php?txt_aqi=3&txt_co=230.5&txt_no=0.4&txt_no2=21&txt_o3=80&txt_so2=2.1&txt_pm25=38.2"
                                            "&txt_pm10=51&txt_nh3=1.5&roundedCelsius=28.0&txt_humid=61&txt_wind=14&txt_uv=7&txt_pollen=High"
                                            "&txt_lat=-1.2864&txt_log=36.8172&searchlat=-4.0435&searchlog=39.6682&user_id=f00d");
-        QStringList targets, lines;
-        {
-            StdoutCapture capture;
-            card.setPlace(QVariant::fromValue(mombasa));
-            (void)QTest::qWaitFor([&] { return !(targets += m_responder.takeTargets()).filter(QStringLiteral("locationlogs")).isEmpty(); }, 5000);
-            lines = capture.takeLines();
-        }
+        QStringList targets;
+        card.setPlace(QVariant::fromValue(mombasa));
+        (void)QTest::qWaitFor([&] { return !(targets += m_responder.takeTargets()).filter(QStringLiteral("locationlogs")).isEmpty(); }, 5000);
         QCOMPARE(card.phase(), PlaceAirCardModel::Phase::Ready);
         QCOMPARE(card.txtStatus(), QStringLiteral("Unhealthy for sensitive groups"));
         QCOMPARE(text(card, "celsiusText"), QStringLiteral("28.0°C"));
@@ -144,7 +143,6 @@ private Q_SLOTS:
                  QStringList({ QStringLiteral("/tarnelo/v1/airquality.php?lat=-4.0435&lon=39.6682"),
                                QStringLiteral("/tarnelo/v1/weatherapi.php?lat=-4.0435&lon=39.6682") }));
         QCOMPARE(targets.filter(QStringLiteral("locationlogs")), QStringList { log });
-        QCOMPARE(lines.filter(QStringLiteral("URL PRINT LOGS")), QStringList { QStringLiteral("URL PRINT LOGS  ") + m_responder.url() + log });
 
         m_responder.answer("/tarnelo/v1/weatherapi.php", 500, "not a list");
         card.setPlace(QVariant::fromValue(mombasa));

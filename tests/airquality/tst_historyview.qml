@@ -47,7 +47,6 @@ Item {
             tryCompare(page, "x", 0, 2000);
             tryCompare(page.item.model, "state", HistoryViewModel.Ready, 5000);
             tryVerify(() => findChild(page.item, "chartView") !== null, 2000);
-            verify(screenshots.save(page.item, "history.png"));
 
             mouseClick(findChild(page.item, "backButton"));
             compare(String(page.source), "");
@@ -57,7 +56,6 @@ Item {
             historyService.answer(401, '{"cod":401,"message":"Invalid API key."}');
             window.view = Qt.createComponent("qrc:/qml/HistoryView.qml").createObject(window, { width: 390, height: 772 });
             tryCompare(window.view.model, "state", HistoryViewModel.Failed, 5000);
-            verify(screenshots.save(window.view, "history-failed.png"));
 
             historyService.answer(200, window.week());
             mouseClick(findChild(window.view, "tryAgain"));

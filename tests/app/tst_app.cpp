@@ -28,12 +28,8 @@ private Q_SLOTS:
         QCOMPARE(app.exitStatus(), QProcess::NormalExit);
         QCOMPARE(app.exitCode(), 0);
 
-        const QStringList lines = QString::fromUtf8(app.readAllStandardOutput()).split(QLatin1Char('\n'));
-        QVERIFY2(lines.size() >= 2, qPrintable(lines.join(QLatin1Char('\n'))));
-        const QString database = dataHome.filePath(QStringLiteral("tarnelo/tarnelo_db.sqlite"));
-        QCOMPARE(lines.at(0), QStringLiteral("Successfully opened connection to database at ") + database);
-        QCOMPARE(lines.at(1), QStringLiteral("Users table created."));
-        QVERIFY(QFile::exists(database));
+        // What the store prints is tst_userstore's; here only where it went.
+        QVERIFY(QFile::exists(dataHome.filePath(QStringLiteral("tarnelo/tarnelo_db.sqlite"))));
 
         const QImage image(screenshot);
         QVERIFY(!image.isNull());

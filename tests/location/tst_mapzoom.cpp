@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "location/MapCamera.h"
 #include "location/MapZoom.h"
 
 #include <QDir>
@@ -62,6 +63,18 @@ private Q_SLOTS:
         QCOMPARE(zoomLevelWithinTiles(3.5, 6), 3.5);
         // A server's tiles have no deepest level: the map's own maximum holds.
         QCOMPARE(zoomLevelWithinTiles(13.5, -1), 13.5);
+    }
+
+    // --map-view LAT,LON,ZOOM: the whole world (zoom 0) is a view; a negative
+    // zoom, a place off the globe or a missing number is none.
+    void mapViewTextNeedsAPlaceAndAZoomOfZeroOrMore()
+    {
+        const std::optional<MapCamera> world = MapCamera::fromText(QStringLiteral("0,0,0"));
+        QVERIFY(world);
+        QCOMPARE(world->zoomLevel, 0.0);
+        QCOMPARE(MapCamera::fromText(QStringLiteral("-4.05,39.67,6"))->center, QGeoCoordinate(-4.05, 39.67));
+        for (const char *refused : { "0,0,-1", "91,0,3", "0,0", "x,0,3" })
+            QVERIFY2(!MapCamera::fromText(QString::fromLatin1(refused)), refused);
     }
 };
 

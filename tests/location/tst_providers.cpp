@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "common/AfterFirstFrame.h"
 #include "common/ScriptedResponder.h"
 #include "common/StdoutCapture.h"
 #include "location/GeocodingProvider.h"
@@ -146,6 +147,23 @@ private Q_SLOTS:
         QSignalSpy named(&provider, &GeocodingProvider::townNameChanged);
         QVERIFY(named.wait());
         QCOMPARE(provider.townName(), QStringLiteral("Nairobi"));
+    }
+
+    // A device's source waits for the app's first frame; a fixed position does not.
+    void deviceSourcesWaitForTheFirstFrame()
+    {
+        qputenv("TARNELO_POSITION", "nmea:" TARNELO_DEMO_WALK);
+        AfterFirstFrame::hold();
+        LocationManagerFun held;
+        QTest::qWait(50);
+        QVERIFY(!held.authorizationStatus());
+        qputenv("TARNELO_POSITION", "fixed:48.8566,2.3522");
+        LocationManagerFun fixed;
+        QTRY_VERIFY(fixed.currentLocation());
+
+        AfterFirstFrame::release();
+        QTRY_COMPARE(held.authorizationStatus(), LocationService::AuthorizationStatus::AuthorizedWhenInUse);
+        QTRY_VERIFY_WITH_TIMEOUT(held.currentLocation(), 5000);
     }
 
     void replaysAnNmeaLogInRealTime()

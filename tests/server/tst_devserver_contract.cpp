@@ -2,13 +2,7 @@
 #include "BackendClient.h"
 #include "common/DevServerProcess.h"
 
-#include <QEventLoop>
-#include <QNetworkAccessManager>
-#include <QNetworkReply>
-#include <QSslCertificate>
-#include <QSslConfiguration>
 #include <QTest>
-#include <QUrlQuery>
 
 #include <memory>
 
@@ -17,22 +11,6 @@ namespace
 // The keys of every account answer, accepted or refused.
 const std::vector<std::string> loginModel { "userid", "fullname",     "phonenumber", "emailaddress",   "dateofbirth",
                                             "gender", "registerdate", "scode",       "messageresponse" };
-
-// The app's own answer to the TLS question: does Qt trust the server with its certificate added as a CA?
-QNetworkReply::NetworkError fetchWithQt(const QUrl &url, const QString &extraCaFile)
-{
-    QNetworkAccessManager manager;
-    QNetworkRequest request(url);
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    if (!extraCaFile.isEmpty())
-        tls.addCaCertificates(extraCaFile);
-    request.setSslConfiguration(tls);
-    std::unique_ptr<QNetworkReply> reply(manager.get(request));
-    QEventLoop loop;
-    QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
-    loop.exec();
-    return reply->error();
-}
 } // namespace
 
 // What every answer looks like, for good input and bad, as the app decodes it.
@@ -117,16 +95,6 @@ private Q_SLOTS:
         QString accented(255, QChar(0xE9));
         const Answer longest = m_client->script("feedbacks.php", { { "userid", m_userId }, { "feedback", accented.toStdString() } });
         QCOMPARE(field(longest.first(), "scode"), QLatin1String("1"));
-    }
-
-    // Qt, as the app uses it, trusts the server only with its certificate added.
-    void qtTrustsTheServerThroughItsCertificate()
-    {
-        QUrl url = m_server->backendUrl();
-        url.setPath(QStringLiteral("/tarnelo/v1/airquality.php"));
-        url.setQuery(QStringLiteral("lat=51.5&lon=-0.12"));
-        QCOMPARE(fetchWithQt(url, m_server->caFile()), QNetworkReply::NoError);
-        QCOMPARE(fetchWithQt(url, QString()), QNetworkReply::SslHandshakeFailedError);
     }
 
     // Every request gets a line, and no credential appears in any of them:

@@ -6,8 +6,6 @@
 #include <QRegularExpression>
 #include <QTest>
 
-#include <array>
-#include <ctime>
 #include <limits>
 #include <memory>
 
@@ -56,28 +54,18 @@ private Q_SLOTS:
         m_client = std::make_unique<BackendClient>(*m_server);
     }
 
-    // The category is the EPA's for exactly the concentrations in the answer,
-    // and a second look within the same cell and hour sees the same air.
+    // The category is the EPA's for exactly the concentrations in the answer;
+    // that they repeat within a cell and hour is tst_air_scale's.
     void airQualityAgreesWithItsConcentrations()
     {
         const QRegularExpression decimal(QStringLiteral("^\\d+\\.\\d\\d$"));
-        // Each place with a second point in its 0.01° cell.
-        const std::vector<std::array<const char *, 3>> places { { "51.5", "51.504", "-0.12" },  { "28.61", "28.6149", "77.21" },
-                                                                { "39.9", "39.8951", "116.4" }, { "-33.87", "-33.87", "151.21" },
-                                                                { "0", "0.003", "-160" },       { "-89.9", "-89.9", "0" } };
-        for (const auto &[lat, nearbyLat, lon] : places) {
-            nlohmann::json first, second;
-            std::time_t hourBefore, hourAfter;
-            do {
-                hourBefore = std::time(nullptr) / 3600;
-                first = m_client->script("airquality.php", { { "lat", lat }, { "lon", lon } }).first();
-                second = m_client->script("airquality.php", { { "lat", nearbyLat }, { "lon", lon } }).first();
-                hourAfter = std::time(nullptr) / 3600;
-            } while (hourBefore != hourAfter);
-            QCOMPARE(dumped(second), dumped(first));
+        const std::pair<const char *, const char *> places[]
+            = { { "51.5", "-0.12" }, { "28.61", "77.21" }, { "39.9", "116.4" }, { "0", "-160" }, { "-89.9", "0" } };
+        for (const auto &[lat, lon] : places) {
+            const nlohmann::json air = m_client->script("airquality.php", { { "lat", lat }, { "lon", lon } }).first();
             for (const char *key : { "co", "no", "no2", "o3", "so2", "pm25", "pm10", "nh3" })
-                QVERIFY2(field(first, key).contains(decimal), qPrintable(dumped(first)));
-            QCOMPARE(field(first, "aqi"), QString::number(usEpaCategory(pollutantsFromText(first))));
+                QVERIFY2(field(air, key).contains(decimal), qPrintable(dumped(air)));
+            QCOMPARE(field(air, "aqi"), QString::number(usEpaCategory(pollutantsFromText(air))));
         }
     }
 

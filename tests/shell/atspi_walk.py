@@ -120,14 +120,21 @@ class Walk:
         self.check("login, filled in")
         self.press("Login", then="Login successful.")
 
-    def check(self, screen):
-        pyatspi.Registry.getDesktop(0).clearCache()
-        controls = 0
+    def out_of_sight(self):
+        """Controls still read out although they lie wholly outside the window."""
         window = self.frame().queryComponent().getExtents(pyatspi.DESKTOP_COORDS)
+        return [node.name for node in showing(self.frame())
+                if node.getRole() in PRESSABLE | EDITABLE and not overlaps(node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS), window)]
+
+    def check(self, screen):
+        # A page sliding in or a menu sliding away is out of sight for a moment.
+        try:
+            wait_for(lambda: not self.out_of_sight(), "", timeout=3)
+        except Stuck:
+            self.problems += [f'{screen}: "{name}" is out of sight but still read out' for name in self.out_of_sight()]
+        controls = 0
         for node in showing(self.frame()):
             role = node.getRole()
-            if role in PRESSABLE | EDITABLE and not overlaps(node.queryComponent().getExtents(pyatspi.DESKTOP_COORDS), window):
-                self.problems.append(f'{screen}: "{node.name}" is out of sight but still read out')
             if os.environ.get("ATSPI_WALK_VERBOSE"):
                 print(f"  {screen}: {node.getRoleName()} '{node.name}'")
             if role in PRESSABLE:

@@ -3,7 +3,6 @@
 // reaches 4.5:1 against it, with the colours taken from the app's theme as
 // the screens see it. Large text would need only 3:1, but each of these pairs
 // also carries small text somewhere, so all of them are held to 4.5:1.
-#include "airquality/AqiClassification.h"
 #include "shell/QmlTypes.h"
 #include "shell/RootController.h"
 
@@ -116,18 +115,6 @@ private Q_SLOTS:
                 unreadable << QStringLiteral("%1: %2 on %3 is %4:1").arg(QLatin1String(pair.where), text.name(), background.name()).arg(ratio, 0, 'f', 2);
         }
         QVERIFY2(unreadable.isEmpty(), qPrintable(unreadable.join(QLatin1String("\n  "))));
-    }
-
-    // The status badge chooses its text colour for whichever status colour
-    // the reading brings; its smallest text is the caption over the value.
-    void statusTextReadsOnEveryStatusColour()
-    {
-        for (int category = 1; category <= AqiClassification::statusNames().size(); ++category) {
-            AqiStatus status;
-            AqiClassification::classify(QString::number(category), status);
-            const double ratio = contrast(AqiClassification::readableTextOn(status.statusColor), status.statusColor);
-            QVERIFY2(ratio >= minimumContrast, qPrintable(QStringLiteral("%1 is %2:1").arg(status.statusColor.name()).arg(ratio, 0, 'f', 2)));
-        }
     }
 };
 
