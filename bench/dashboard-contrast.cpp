@@ -6,6 +6,7 @@
 // contrast ratio of white against each (4.5:1 is the minimum for text this
 // size). No backend and no position: the readings show their placeholders.
 // Usage: dashboard_contrast [picture.png]   (saves the whole dashboard there)
+#include "common/ScreenWindow.h"
 #include "shell/QmlTypes.h"
 #include "shell/RootController.h"
 #include "shell/WindowGrab.h"
@@ -13,7 +14,6 @@
 #include <QFont>
 #include <QGuiApplication>
 #include <QImage>
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -68,17 +68,8 @@ int main(int argc, char *argv[])
     QQmlEngine engine;
     QmlTypes::registerAll(engine, &rootController);
     QQuickWindow window;
-    window.resize(390, 1600);
-    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qml/MainView.qml")));
-    const std::unique_ptr<QQuickItem> dashboard(qobject_cast<QQuickItem *>(component.create()));
-    if (!dashboard) {
-        std::fprintf(stderr, "%s\n", qPrintable(component.errorString()));
-        return 1;
-    }
-    dashboard->setParentItem(window.contentItem());
-    dashboard->setSize(window.size());
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    const std::unique_ptr<QQuickItem> dashboard = showScreen(engine, window, QStringLiteral("MainView"), QSize(390, 1600));
+    if (!dashboard)
         return 1;
     QTest::qWait(500);
 

@@ -9,13 +9,13 @@
 // "side-menu-moving first F frames T ms later F frames T ms". Run by
 // startup.py, in its environment.
 // Usage: shell_switch [rounds]
+#include "common/ScreenWindow.h"
 #include "shell/QmlTypes.h"
 #include "shell/RootController.h"
 #include "storage/SQliteLogin.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
-#include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -100,17 +100,8 @@ int main(int argc, char **argv)
     QQmlEngine engine;
     QmlTypes::registerAll(engine, &rootController);
     QQuickWindow window;
-    window.resize(390, 844);
-    QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qml/HomeView.qml")));
-    const std::unique_ptr<QQuickItem> home(qobject_cast<QQuickItem *>(component.create()));
-    if (!home) {
-        std::fprintf(stderr, "%s\n", qPrintable(component.errorString()));
-        return 1;
-    }
-    home->setParentItem(window.contentItem());
-    home->setSize(window.size());
-    window.show();
-    if (!QTest::qWaitForWindowExposed(&window))
+    const std::unique_ptr<QQuickItem> home = showScreen(engine, window, QStringLiteral("HomeView"), QSize(390, 844));
+    if (!home)
         return 1;
     auto *destination = findItem(home.get(), QStringLiteral("destination"));
     auto *menu = findItem(home.get(), QStringLiteral("sideMenu"));

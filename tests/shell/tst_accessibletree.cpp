@@ -2,6 +2,7 @@
 // Every screen as a screen reader meets it: each control a person can press
 // has a name and can be pressed through the accessibility interface, each
 // text field has a name, and a password field never hands its text over.
+#include "common/ScreenWindow.h"
 #include "shell/HomeDestinations.h"
 #include "shell/QmlTypes.h"
 #include "shell/ReturnPressesButtons.h"
@@ -198,20 +199,14 @@ class AccessibleTreeTest : public QObject
     Q_OBJECT
 
 private:
-    // The screen built from its file on a shown phone-sized window.
-    std::unique_ptr<QQuickItem> show(QQuickWindow &window, const QString &view)
+    // The screen on a shown phone-sized window, for a guest or a signed-in user.
+    std::unique_ptr<QQuickItem> show(QQuickWindow &window, const QString &view, bool signedIn = false)
     {
-        window.resize(390, 844);
-        QQmlComponent component(m_engine.get(), QUrl(QStringLiteral("qrc:/qml/") + view + QStringLiteral(".qml")));
-        std::unique_ptr<QQuickItem> screen(qobject_cast<QQuickItem *>(component.create()));
-        if (!screen) {
-            qWarning("%s", qPrintable(component.errorString()));
-            return nullptr;
-        }
-        screen->setParentItem(window.contentItem());
-        screen->setSize(window.size());
-        window.show();
-        return QTest::qWaitForWindowExposed(&window) ? std::move(screen) : nullptr;
+        SQliteLogin().deleteAll();
+        if (signedIn)
+            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
+                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+        return showScreen(*m_engine, window, view, QSize(390, 844));
     }
 
     RootController m_rootController;
@@ -247,12 +242,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, view);
         QFETCH(bool, signedIn);
-        SQliteLogin().deleteAll();
-        if (signedIn)
-            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
         QQuickWindow window;
-        const std::unique_ptr<QQuickItem> screen = show(window, view);
+        const std::unique_ptr<QQuickItem> screen = show(window, view, signedIn);
         QVERIFY(screen);
 
         // The home shell hides its side menu until asked.
@@ -286,12 +277,8 @@ private Q_SLOTS:
     {
         QFETCH(QString, view);
         QFETCH(bool, signedIn);
-        SQliteLogin().deleteAll();
-        if (signedIn)
-            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
         QQuickWindow window;
-        const std::unique_ptr<QQuickItem> screen = show(window, view);
+        const std::unique_ptr<QQuickItem> screen = show(window, view, signedIn);
         QVERIFY(screen);
         window.requestActivate();
         QVERIFY(QTest::qWaitForWindowActive(&window));
