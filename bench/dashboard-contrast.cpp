@@ -37,18 +37,6 @@ double contrastWithWhite(const QColor &background)
     return 1.05 / (luminance(background) + 0.05);
 }
 
-QQuickItem *findItem(QQuickItem *root, const QString &name)
-{
-    if (root->objectName() == name)
-        return root;
-    const QList<QQuickItem *> children = root->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 void report(const char *what, const QColor &background)
 {
     std::printf("%-28s %s  white on it %.2f:1\n", what, qPrintable(background.name()), contrastWithWhite(background));

@@ -36,19 +36,6 @@ double at(std::vector<double> times, double share)
     return times[static_cast<size_t>(share * static_cast<double>(times.size() - 1))];
 }
 
-// By object name among the visual descendants: a repeater's items have no QObject parent.
-QQuickItem *findItem(QQuickItem *root, const QString &name)
-{
-    if (root->objectName() == name)
-        return root;
-    const QList<QQuickItem *> children = root->childItems();
-    for (QQuickItem *child : children) {
-        if (QQuickItem *found = findItem(child, name))
-            return found;
-    }
-    return nullptr;
-}
-
 void tap(QQuickWindow &window, QQuickItem *item)
 {
     QTest::mouseClick(&window, Qt::LeftButton, {}, item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint());

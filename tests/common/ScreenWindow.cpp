@@ -20,3 +20,15 @@ std::unique_ptr<QQuickItem> showScreen(QQmlEngine &engine, QQuickWindow &window,
     window.show();
     return QTest::qWaitForWindowExposed(&window) ? std::move(screen) : nullptr;
 }
+
+QQuickItem *findItem(QQuickItem *root, const QString &name)
+{
+    if (root->objectName() == name)
+        return root;
+    const QList<QQuickItem *> children = root->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findItem(child, name))
+            return found;
+    }
+    return nullptr;
+}

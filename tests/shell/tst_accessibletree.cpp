@@ -128,14 +128,6 @@ void collectItems(QQuickItem *root, QList<QQuickItem *> &items)
         collectItems(child, items);
 }
 
-QQuickItem *findItem(QQuickItem *root, const QString &name)
-{
-    QList<QQuickItem *> items;
-    collectItems(root, items);
-    const auto found = std::find_if(items.cbegin(), items.cend(), [&name](const QQuickItem *item) { return item->objectName() == name; });
-    return found == items.cend() ? nullptr : *found;
-}
-
 bool takesTaps(const QQuickItem *item)
 {
     if (item->inherits("QQuickMouseArea") && SignalProbe::connected(item, "clicked(QQuickMouseEvent*)"))
