@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "AccountFixtures.h"
 #include "common/QuickTestSetup.h"
 #include "common/ScriptedResponder.h"
-#include "storage/SQliteLogin.h"
 
 #include <QtQuickTest>
 
@@ -22,8 +22,7 @@ public Q_SLOTS:
                             R"("phonenumber":"0722 000111","relationship":"Spouse","weight":"64","height":"5.6","smokerstatus":"11-20 Moderate smoker",)"
                             R"("smoker":"Smoker","moredetails":"Inhaler before running; worse in dusty air.","scode":"1","messageresponse":"ok"}])");
         qputenv("TARNELO_BACKEND_URL", m_responder->url().toUtf8());
-        SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                             QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+        storeAmina();
     }
 
 private:

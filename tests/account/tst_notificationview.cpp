@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The notifications screen against a scripted backend, as a signed-in user.
+#include "AccountFixtures.h"
 #include "common/QuickTestSetup.h"
 #include "common/ScriptedResponder.h"
-#include "storage/AlertStore.h"
-#include "storage/SQliteLogin.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -33,11 +32,7 @@ public Q_SLOTS:
     {
         QuickTestSetup::applicationAvailable();
         qputenv("TARNELO_BACKEND_URL", m_backend.url().toUtf8());
-        SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                             QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
-        AlertStore alerts;
-        alerts.addReceivedAlert(QStringLiteral("12"), { QDateTime(QDate(2026, 11, 23), QTime(7, 40), Qt::UTC), 3, QStringLiteral("Nairobi") });
-        alerts.addReceivedAlert(QStringLiteral("12"), { QDateTime(QDate(2026, 11, 23), QTime(17, 5), Qt::UTC), 4, QStringLiteral("Mombasa") });
+        storeAmina();
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)

@@ -5,7 +5,7 @@ import Tarnelo 1.0
 
 // The profile as a signed-in user goes through it on a phone-sized window,
 // against the development backend: the overview, the bio changed and seen
-// again, feedback, and the way out.
+// again, and the way out. What the models make of answers is tested on them.
 Item {
     id: window
     width: 390
@@ -47,16 +47,6 @@ Item {
             wait(50);
         }
 
-        // The "OK" of a page's alert: its buttons live on the window's overlay.
-        function okOf(page, alertName) {
-            return findChild(findChild(page, alertName).contentItem, "alertOk");
-        }
-
-        function typeText(text) {
-            for (const character of text)
-                keyClick(character);
-        }
-
         // Each appearance of the overview asks once for each of its two lists.
         function expectOneFetchEach(appearances) {
             for (const script of ["checksubscription.php", "checkmedical.php"])
@@ -66,34 +56,26 @@ Item {
                 compare(backend.requestsTo(script), appearances, script);
         }
 
-        function signIn() {
+        // Signs in against the backend; the session starts on the alert's "OK".
+        function initTestCase() {
             login.emailAddress = demoEmail;
             login.passwordtxt = demoPassword;
             login.login();
             tryVerify(() => login.showingAlert, 5000);
             compare(login.responseCode !== "" && login.responseCode !== "0", true, login.alertMessage);
-        }
-
-        function initTestCase() {
-            signIn();
             login.alertAccepted();
         }
 
-        function init() {
-            warnings.restart();
-        }
-
         function test_journey() {
+            warnings.restart();
             window.view = Qt.createComponent("qrc:/qml/ProfileView.qml").createObject(window, { width: 390, height: 844 });
             verify(window.view, "the profile builds");
             const signedIn = login.date_fullname;
 
             compare(find("fullName").text, signedIn);
-            compare(find("emailLine").text, "Email : " + demoEmail);
             compare(find("genderLine").text, "Gender : Female", "the demo account is stored with code 2");
             // Every new account starts on the free package.
             tryCompare(find("categoryLine"), "text", "Category: Freemium", 5000);
-            compare(find("conditionLine").text, "Condition: Not Provided");
             expectOneFetchEach(1);
 
             // The bio, changed on the backend and on the device.
@@ -103,7 +85,6 @@ Item {
             compare(findChild(bio, "fullNameField").text, signedIn);
             compare(findChild(bio, "yearWheel").currentIndex, Number(login.date_dateofbirth.substring(0, 4)) - 1900);
             verify(!findChild(bio, "yearWheel").moving, "the wheels open on the stored day");
-            compare(bio.viewModel.selectedOption, "Female");
 
             mouseClick(findChild(bio, "genderButton"));
             const sheet = findChild(bio, "genderPicker");
@@ -115,11 +96,13 @@ Item {
             mouseClick(nameField);
             nameField.selectAll();
             keyClick(Qt.Key_Delete);
-            typeText("Dana Otieno");
+            for (const character of "Dana Otieno")
+                keyClick(character);
             mouseClick(findChild(bio, "updateButton"));
             tryVerify(() => bio.viewModel.showingAlert && !bio.viewModel.isLoading, 5000);
             verify(bio.viewModel.responseCode !== "0", bio.viewModel.alertMessage);
-            mouseClick(okOf(bio, "alert"));
+            // The alert's buttons live on the window's overlay.
+            mouseClick(findChild(findChild(bio, "alert").contentItem, "alertOk"));
             mouseClick(findChild(bio, "backButton"));
             waitForStack(1);
             compare(find("fullName").text, "Dana Otieno");
@@ -135,18 +118,6 @@ Item {
                 mouseClick(findChild(stack().currentItem, "backButton"));
                 waitForStack(1);
             }
-
-            // Feedback, thanked for by the backend.
-            const box = find("feedbackBox");
-            scrollTo(box);
-            mouseClick(box);
-            typeText("Dust & smoke");
-            compare(window.view.viewModel.feedbacks, "Dust & smoke");
-            mouseClick(find("sendFeedbackButton"));
-            tryVerify(() => window.view.viewModel.showingAlert && !window.view.viewModel.isLoading, 5000);
-            compare(window.view.viewModel.alertMessage, "Thank you for your feedback.");
-            compare(box.text, "", "the box is ready for more");
-            mouseClick(okOf(stack().currentItem, "alert"));
 
             // Logout asks first, then hands the window to a fresh login.
             scrollTo(find("logoutButton"));

@@ -2,7 +2,6 @@
 #include "common/QuickTestSetup.h"
 
 #include "shell/QmlTypes.h"
-#include "shell/WindowGrab.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -11,7 +10,6 @@
 #include <QGuiApplication>
 #include <QQmlContext>
 #include <QQmlEngine>
-#include <QQuickItem>
 #include <QStandardPaths>
 
 #include <atomic>
@@ -28,12 +26,6 @@ void countWarnings(QtMsgType type, const QMessageLogContext &context, const QStr
     previousHandler(type, context, message);
 }
 } // namespace
-
-bool Screenshots::save(QQuickItem *item, const QString &fileName)
-{
-    QDir().mkpath(QStringLiteral(TARNELO_SCREENSHOT_DIR));
-    return WindowGrab::grab(item->window()).save(QStringLiteral(TARNELO_SCREENSHOT_DIR "/") + fileName, "PNG");
-}
 
 void WarningCounter::restart()
 {
@@ -60,6 +52,5 @@ void QuickTestSetup::applicationAvailable()
 void QuickTestSetup::qmlEngineAvailable(QQmlEngine *engine)
 {
     QmlTypes::registerAll(*engine, &m_rootController);
-    engine->rootContext()->setContextProperty(QStringLiteral("screenshots"), &m_screenshots);
     engine->rootContext()->setContextProperty(QStringLiteral("warnings"), &m_warnings);
 }

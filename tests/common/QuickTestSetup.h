@@ -6,17 +6,6 @@
 #include <QObject>
 
 class QQmlEngine;
-class QQuickItem;
-
-// Lets a QML test save what the window shows, as the app's --screenshot does.
-class Screenshots : public QObject
-{
-    Q_OBJECT
-
-public:
-    // Into the build tree's screenshots directory; true when the file was written.
-    Q_INVOKABLE bool save(QQuickItem *item, const QString &fileName);
-};
 
 // Counts the warnings and errors printed, QML's among them, so that a test
 // can insist there were none.
@@ -32,8 +21,8 @@ public:
 };
 
 // The setup of the Qt Quick tests of the screens: the app's font and QML
-// types, per-test user files that start empty, and two context objects,
-// "screenshots" and "warnings".
+// types, per-test user files that start empty, and the context object
+// "warnings".
 class QuickTestSetup : public QObject
 {
     Q_OBJECT
@@ -44,6 +33,5 @@ public Q_SLOTS:
 
 private:
     RootController m_rootController;
-    Screenshots m_screenshots;
     WarningCounter m_warnings;
 };

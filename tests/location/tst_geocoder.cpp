@@ -7,12 +7,9 @@
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QTemporaryFile>
 #include <QTest>
 #include <QThread>
 #include <QUrlQuery>
-
-#include <sqlite3.h>
 
 #include <algorithm>
 #include <memory>
@@ -20,13 +17,7 @@
 namespace
 {
 const QString unavailable = QStringLiteral("The offline gazetteer is not available");
-
-const std::string nairobiSearch
-    = R"([{"lat":"-1.2832533","lon":"36.8172449","display_name":"Kenyatta Avenue, Nairobi Central, Nairobi, Nairobi County, 00100, Kenya",
-"address":{"road":"Kenyatta Avenue","suburb":"Nairobi Central","city":"Nairobi","state":"Nairobi County","postcode":"00100","country":"Kenya","country_code":"ke"}},
-{"lat":"-1.3","lon":"36.8","display_name":"Nairobi, Kenya","address":{"city":"Nairobi","country":"Kenya","country_code":"ke"}}])";
-const std::string parisReverse = R"({"lat":"48.8566","lon":"2.3522","display_name":"Rue de Rivoli, Quartier Saint-Merri, Paris, Île-de-France, 75004, France",
-"address":{"road":"Rue de Rivoli","suburb":"Paris 4e","city":"Paris","state":"Île-de-France","postcode":"75004","country":"France","country_code":"fr"}})";
+const QGeoCoordinate nairobi(-1.2864, 36.8172);
 
 struct Outcome {
     bool completed = false;
@@ -46,10 +37,13 @@ struct Outcome {
     }
 };
 
-// An unknown part reads differently from every text a test expects.
-QString known(const std::optional<QString> &text)
+// Name, street, locality, region, postcode and country, "-" for an unknown part.
+QString described(const Placemark &place)
 {
-    return text.value_or(QStringLiteral("(unknown)"));
+    QStringList parts;
+    for (const std::optional<QString> &part : { place.name, place.thoroughfare, place.locality, place.administrativeArea, place.postalCode, place.country })
+        parts.append(part.value_or(QStringLiteral("-")));
+    return parts.join(QLatin1Char('|'));
 }
 
 // The geocoder TARNELO_GEOCODER and TARNELO_GAZETTEER choose when it is made.
@@ -80,26 +74,6 @@ Outcome search(Geocoder &geocoder, const QString &address)
     return await([&](Geocoder::Completion done) { geocoder.geocodeAddressString(address, std::move(done)); });
 }
 
-// The plain nearest place to a point, by brute force over the whole file.
-QString nearestPlaceName(const QGeoCoordinate &point)
-{
-    sqlite3 *db = nullptr;
-    sqlite3_open_v2(TARNELO_GAZETTEER_FILE, &db, SQLITE_OPEN_READONLY, nullptr);
-    sqlite3_stmt *places = nullptr;
-    sqlite3_prepare_v2(db, "SELECT name, latitude, longitude FROM places", -1, &places, nullptr);
-    QString nearest;
-    double nearestDistance = qInf();
-    while (sqlite3_step(places) == SQLITE_ROW) {
-        const double distance = point.distanceTo(QGeoCoordinate(sqlite3_column_double(places, 1), sqlite3_column_double(places, 2)));
-        if (distance < nearestDistance) {
-            nearestDistance = distance;
-            nearest = QString::fromUtf8(reinterpret_cast<const char *>(sqlite3_column_text(places, 0)));
-        }
-    }
-    sqlite3_finalize(places);
-    sqlite3_close(db);
-    return nearest;
-}
 } // namespace
 
 class GeocoderTest : public QObject
@@ -145,115 +119,76 @@ private Q_SLOTS:
     void namesPointsAfterThePlaceTheyAreIn_data()
     {
         QTest::addColumn<QGeoCoordinate>("point");
-        QTest::addColumn<QString>("locality");
-        QTest::addColumn<QString>("region");
-        QTest::addColumn<QString>("country");
-        QTest::newRow("central Nairobi") << QGeoCoordinate(-1.2864, 36.8172) << QStringLiteral("Nairobi") << QStringLiteral("Nairobi County")
-                                         << QStringLiteral("Kenya");
-        QTest::newRow("central Paris") << QGeoCoordinate(48.8566, 2.3522) << QStringLiteral("Paris") << QStringLiteral("Île-de-France")
-                                       << QStringLiteral("France");
+        QTest::addColumn<QString>("place");
+        QTest::newRow("central Nairobi") << nairobi << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("central Paris") << QGeoCoordinate(48.8566, 2.3522) << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
         // Nearer Saint-Ouen's centre than Paris's, but well inside Paris.
-        QTest::newRow("Montmartre") << QGeoCoordinate(48.8867, 2.3431) << QStringLiteral("Paris") << QStringLiteral("Île-de-France")
-                                    << QStringLiteral("France");
+        QTest::newRow("Montmartre") << QGeoCoordinate(48.8867, 2.3431) << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
         // A town beside a city keeps its own name.
-        QTest::newRow("Neuilly-sur-Seine") << QGeoCoordinate(48.8846, 2.2697) << QStringLiteral("Neuilly-sur-Seine") << QStringLiteral("Île-de-France")
-                                           << QStringLiteral("France");
+        QTest::newRow("Neuilly-sur-Seine") << QGeoCoordinate(48.8846, 2.2697) << QStringLiteral("Neuilly-sur-Seine|-|Neuilly-sur-Seine|Île-de-France|-|France");
+        // Far out at sea, the nearest place of all, as a brute-force search of
+        // the file finds it: Hanga Roa by 13 km from Adamstown, and Funafuti,
+        // across the antimeridian, by 230 m from Alapi Village.
+        const QString noronha = QStringLiteral("Fernando de Noronha (Distrito Estadual)");
+        QTest::newRow("mid-Atlantic") << QGeoCoordinate(0, -30) << noronha + QLatin1String("|-|") + noronha + QLatin1String("|Pernambuco|-|Brazil");
+        QTest::newRow("the Pacific's pole of inaccessibility") << QGeoCoordinate(-48.9, -123.4) << QStringLiteral("Hanga Roa|-|Hanga Roa|Valparaiso|-|Chile");
+        QTest::newRow("beside the antimeridian") << QGeoCoordinate(-10, 179.9) << QStringLiteral("Funafuti|-|Funafuti|Funafuti|-|Tuvalu");
     }
 
     void namesPointsAfterThePlaceTheyAreIn()
     {
         QFETCH(QGeoCoordinate, point);
-        const auto geocoder = makeGeocoder("offline");
-        const Outcome outcome = reverse(*geocoder, point);
-        QVERIFY(outcome.completed);
+        const Outcome outcome = reverse(*makeGeocoder({}), point);
         QCOMPARE(outcome.error, QString());
         QCOMPARE(outcome.placemarks.size(), 1);
-        const Placemark &place = outcome.placemarks.constFirst();
-        QTEST(known(place.locality), "locality");
-        QCOMPARE(known(place.name), known(place.locality));
-        QTEST(known(place.administrativeArea), "region");
-        QTEST(known(place.country), "country");
-        QCOMPARE(place.location.value_or(QGeoCoordinate()), point);
-        QVERIFY(!place.thoroughfare && !place.postalCode);
+        QTEST(described(outcome.placemarks.constFirst()), "place");
+        QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), point);
     }
 
-    void namesPointsFarOutAtSeaAfterTheNearestPlace()
-    {
-        const auto geocoder = makeGeocoder({});
-        for (const QGeoCoordinate &point : { QGeoCoordinate(0, -30), QGeoCoordinate(-48.9, -123.4), QGeoCoordinate(-10, 179.9) }) {
-            const Outcome outcome = reverse(*geocoder, point);
-            QCOMPARE(outcome.placemarks.size(), 1);
-            QCOMPARE(known(outcome.placemarks.constFirst().locality), nearestPlaceName(point));
-        }
-    }
-
+    // The first place found, or "" when none is.
     void findsPlacesByName_data()
     {
         QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("region");
-        QTest::addColumn<QString>("country");
-        QTest::newRow("upper case with a diaeresis") << QStringLiteral("NAÏROBI") << QStringLiteral("Nairobi") << QStringLiteral("Nairobi County")
-                                                     << QStringLiteral("Kenya");
-        QTest::newRow("address") << QStringLiteral("Nairobi, Kenya") << QStringLiteral("Nairobi") << QStringLiteral("Nairobi County")
-                                 << QStringLiteral("Kenya");
-        QTest::newRow("prefix") << QStringLiteral("Nairob") << QStringLiteral("Nairobi") << QStringLiteral("Nairobi County") << QStringLiteral("Kenya");
-        QTest::newRow("without accents") << QStringLiteral("Sao Paulo") << QStringLiteral("São Paulo") << QStringLiteral("São Paulo")
-                                         << QStringLiteral("Brazil");
-        QTest::newRow("biggest of a name") << QStringLiteral("Paris") << QStringLiteral("Paris") << QStringLiteral("Île-de-France") << QStringLiteral("France");
-        QTest::newRow("region named") << QStringLiteral("Paris, Texas") << QStringLiteral("Paris") << QStringLiteral("Texas")
-                                      << QStringLiteral("United States");
-        QTest::newRow("country code") << QStringLiteral("paris, ca") << QStringLiteral("Paris") << QStringLiteral("Ontario") << QStringLiteral("Canada");
-        // Manila and Manaus are bigger, but only Man is called that.
-        QTest::newRow("exact before prefix") << QStringLiteral("Man") << QStringLiteral("Man") << QStringLiteral("Montagnes") << QStringLiteral("Ivory Coast");
+        QTest::addColumn<QString>("first");
+        QTest::newRow("upper case with a diaeresis") << QStringLiteral("NAÏROBI") << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("address") << QStringLiteral("Nairobi, Kenya") << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("prefix") << QStringLiteral("Nairob") << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("without accents") << QStringLiteral("Sao Paulo") << QStringLiteral("São Paulo|-|São Paulo|São Paulo|-|Brazil");
+        QTest::newRow("biggest of a name") << QStringLiteral("Paris") << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
+        QTest::newRow("region named") << QStringLiteral("Paris, Texas") << QStringLiteral("Paris|-|Paris|Texas|-|United States");
+        QTest::newRow("country code") << QStringLiteral("paris, ca") << QStringLiteral("Paris|-|Paris|Ontario|-|Canada");
+        QTest::newRow("blank") << QStringLiteral("   ") << QString();
+        QTest::newRow("null") << QString() << QString();
+        QTest::newRow("only a country") << QStringLiteral(" , Kenya") << QString();
     }
 
     void findsPlacesByName()
     {
         QFETCH(QString, address);
-        const auto geocoder = makeGeocoder("offline");
-        const Outcome outcome = search(*geocoder, address);
+        const Outcome outcome = search(*makeGeocoder("offline"), address);
+        QVERIFY(outcome.completed);
         QCOMPARE(outcome.error, QString());
-        QVERIFY(!outcome.placemarks.isEmpty());
         QVERIFY(outcome.placemarks.size() <= 10);
-        const Placemark &first = outcome.placemarks.constFirst();
-        QTEST(known(first.name), "name");
-        QTEST(known(first.administrativeArea), "region");
-        QTEST(known(first.country), "country");
-        QVERIFY(first.location && first.location->isValid());
+        QTEST(outcome.placemarks.isEmpty() ? QString() : described(outcome.placemarks.constFirst()), "first");
     }
 
-    void placesFoundAreWhereThePlaceIs()
+    // Manila and Manaus are bigger, but only Man is called that; after the
+    // exact name come the names it begins, most populous first.
+    void exactNameBeforePrefixesWhereThePlaceIs()
     {
-        const auto geocoder = makeGeocoder("offline");
-        const Outcome outcome = search(*geocoder, QStringLiteral("Man"));
+        const Outcome outcome = search(*makeGeocoder("offline"), QStringLiteral("Man"));
         QCOMPARE(outcome.placemarks.size(), 10);
+        QCOMPARE(described(outcome.placemarks.at(0)), QStringLiteral("Man|-|Man|Montagnes|-|Ivory Coast"));
         QVERIFY(outcome.placemarks.at(0).location->distanceTo(QGeoCoordinate(7.4125, -7.5538)) < 1000);
-        // After the exact name, the names it begins, most populous first.
-        QCOMPARE(known(outcome.placemarks.at(1).name), QStringLiteral("Manila"));
-    }
-
-    void blankSearchesFindNothing()
-    {
-        const auto geocoder = makeGeocoder("offline");
-        for (const QString &address : { QStringLiteral("   "), QString(), QStringLiteral(" , Kenya") }) {
-            const Outcome outcome = search(*geocoder, address);
-            QVERIFY(outcome.completed);
-            QCOMPARE(outcome.error, QString());
-            QVERIFY(outcome.placemarks.isEmpty());
-        }
+        QCOMPARE(outcome.placemarks.at(1).name.value_or(QString()), QStringLiteral("Manila"));
     }
 
     void unusableGazetteerIsAnError()
     {
-        QTemporaryFile notADatabase;
-        QVERIFY(notADatabase.open());
-        notADatabase.write("city,lat,lon\nNairobi,-1.28,36.82\n");
-        notADatabase.flush();
-        for (const QByteArray &path : { QByteArray("/nonexistent/gazetteer.sqlite"), QFile::encodeName(notADatabase.fileName()) }) {
+        // A file that is there but is no database: this test's own executable.
+        for (const QByteArray &path : { QByteArray("/nonexistent/gazetteer.sqlite"), QFile::encodeName(QCoreApplication::applicationFilePath()) }) {
             const auto geocoder = makeGeocoder("offline", path);
-            const Outcome reversed = reverse(*geocoder, QGeoCoordinate(-1.2864, 36.8172));
-            QVERIFY(reversed.completed);
+            const Outcome reversed = reverse(*geocoder, nairobi);
             QCOMPARE(reversed.error, unavailable);
             QVERIFY(reversed.placemarks.isEmpty());
             QCOMPARE(search(*geocoder, QStringLiteral("Nairobi")).error, unavailable);
@@ -267,33 +202,25 @@ private Q_SLOTS:
         QCOMPARE(gazetteerFilePath(), QDir::cleanPath(QCoreApplication::applicationDirPath() + QStringLiteral("/../share/tarnelo/gazetteer.sqlite")));
     }
 
-    void completesLaterOnTheMainThread_data()
+    void completesLaterOnTheMainThreadAndNeverOnceDestroyed_data()
     {
         QTest::addColumn<QByteArray>("backend");
         QTest::newRow("offline") << QByteArray("offline");
         QTest::newRow("nominatim") << QByteArray("nominatim:") + m_nominatim.url().toUtf8();
     }
 
-    void completesLaterOnTheMainThread()
+    void completesLaterOnTheMainThreadAndNeverOnceDestroyed()
     {
         QFETCH(QByteArray, backend);
-        const auto geocoder = makeGeocoder(backend);
-        for (const Outcome &outcome : { reverse(*geocoder, QGeoCoordinate(-1.2864, 36.8172)), search(*geocoder, QStringLiteral("Nairobi")) }) {
+        auto geocoder = makeGeocoder(backend);
+        for (const Outcome &outcome : { reverse(*geocoder, nairobi), search(*geocoder, QStringLiteral("Nairobi")) }) {
             QVERIFY(!outcome.completedInsideCall);
             QVERIFY(outcome.completed);
             QCOMPARE(outcome.thread, QThread::currentThread());
         }
-    }
-
-    void neverCompletesOnceDestroyed_data() { completesLaterOnTheMainThread_data(); }
-
-    void neverCompletesOnceDestroyed()
-    {
-        QFETCH(QByteArray, backend);
-        auto geocoder = makeGeocoder(backend);
         Outcome reversed;
         Outcome searched;
-        geocoder->reverseGeocodeLocation(QGeoCoordinate(-1.2864, 36.8172), reversed.recorder());
+        geocoder->reverseGeocodeLocation(nairobi, reversed.recorder());
         geocoder->geocodeAddressString(QStringLiteral("Nairobi"), searched.recorder());
         geocoder.reset();
         QTest::qWait(300);
@@ -303,65 +230,49 @@ private Q_SLOTS:
 
     void asksNominatimForAddresses()
     {
-        m_nominatim.answer("/search", 200, nairobiSearch);
+        m_nominatim.answer("/search", 200, R"([{"lat":"-1.2832533","lon":"36.8172449","display_name":"Kenyatta Avenue, Nairobi",
+"address":{"road":"Kenyatta Avenue","city":"Nairobi","state":"Nairobi County","postcode":"00100","country":"Kenya","country_code":"ke"}},
+{"lat":"-1.3","lon":"36.8","display_name":"Nairobi, Kenya","address":{"city":"Nairobi","country":"Kenya","country_code":"ke"}}])");
         m_nominatim.takeTargets();
-        const auto geocoder = makeGeocoder("nominatim:" + m_nominatim.url().toUtf8() + '/');
-        const Outcome outcome = search(*geocoder, QStringLiteral("Nairobi, Kenya"));
+        const Outcome outcome = search(*makeGeocoder("nominatim:" + m_nominatim.url().toUtf8() + '/'), QStringLiteral("Nairobi, Kenya"));
         QCOMPARE(outcome.error, QString());
         const QUrl sent(m_nominatim.takeTargets().value(0));
-        QCOMPARE(sent.path(), QStringLiteral("/search"));
-        const QUrlQuery query(sent);
-        QCOMPARE(query.queryItemValue(QStringLiteral("q"), QUrl::FullyDecoded), QStringLiteral("Nairobi, Kenya"));
-        QCOMPARE(query.queryItemValue(QStringLiteral("format")), QStringLiteral("json"));
-        QCOMPARE(query.queryItemValue(QStringLiteral("limit")), QStringLiteral("10"));
-
+        QCOMPARE(QUrlQuery(sent).queryItemValue(QStringLiteral("q"), QUrl::FullyDecoded), QStringLiteral("Nairobi, Kenya"));
+        QCOMPARE(QUrlQuery(sent).queryItemValue(QStringLiteral("limit")), QStringLiteral("10"));
         QCOMPARE(outcome.placemarks.size(), 2);
-        const Placemark &street = outcome.placemarks.at(0);
-        QCOMPARE(QStringList({ known(street.name), known(street.thoroughfare), known(street.locality), known(street.administrativeArea),
-                               known(street.postalCode), known(street.country) })
-                     .join(QLatin1Char('|')),
-                 QStringLiteral("Kenyatta Avenue|Kenyatta Avenue|Nairobi|Nairobi County|00100|Kenya"));
-        QCOMPARE(street.location.value_or(QGeoCoordinate()), QGeoCoordinate(-1.2832533, 36.8172449));
-        const Placemark &city = outcome.placemarks.at(1);
-        QCOMPARE(known(city.name), QStringLiteral("Nairobi"));
-        QVERIFY(!city.thoroughfare && !city.postalCode && !city.administrativeArea);
+        QCOMPARE(described(outcome.placemarks.at(0)), QStringLiteral("Kenyatta Avenue|Kenyatta Avenue|Nairobi|Nairobi County|00100|Kenya"));
+        QCOMPARE(outcome.placemarks.at(0).location.value_or(QGeoCoordinate()), QGeoCoordinate(-1.2832533, 36.8172449));
+        QCOMPARE(described(outcome.placemarks.at(1)), QStringLiteral("Nairobi|-|Nairobi|-|-|Kenya"));
     }
 
-    void asksNominatimForPoints()
+    void asksNominatimForPointsAndReportsItsFailures()
     {
-        m_nominatim.answer("/reverse", 200, parisReverse);
+        m_nominatim.answer("/reverse", 200, R"({"lat":"48.8566","lon":"2.3522","display_name":"Rue de Rivoli, Paris",
+"address":{"road":"Rue de Rivoli","city":"Paris","state":"Île-de-France","postcode":"75004","country":"France","country_code":"fr"}})");
         m_nominatim.takeTargets();
         const auto geocoder = makeGeocoder("nominatim:" + m_nominatim.url().toUtf8());
         const QGeoCoordinate point(48.85661, 2.35222);
         const Outcome outcome = reverse(*geocoder, point);
         QCOMPARE(outcome.error, QString());
         const QUrl sent(m_nominatim.takeTargets().value(0));
-        QCOMPARE(sent.path(), QStringLiteral("/reverse"));
         // The plugin writes six significant digits, a dozen metres at most.
         const QGeoCoordinate sentPoint(QUrlQuery(sent).queryItemValue(QStringLiteral("lat")).toDouble(),
                                        QUrlQuery(sent).queryItemValue(QStringLiteral("lon")).toDouble());
         QVERIFY(sentPoint.distanceTo(point) < 15);
         QCOMPARE(outcome.placemarks.size(), 1);
-        const Placemark &place = outcome.placemarks.constFirst();
-        QCOMPARE(QStringList({ known(place.name), known(place.locality), known(place.postalCode) }).join(QLatin1Char('|')),
-                 QStringLiteral("Rue de Rivoli|Paris|75004"));
-        QCOMPARE(place.location.value_or(QGeoCoordinate()), point);
+        QCOMPARE(described(outcome.placemarks.constFirst()), QStringLiteral("Rue de Rivoli|Rue de Rivoli|Paris|Île-de-France|75004|France"));
+        QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), point);
 
         // What Nominatim says of a point it cannot name.
         m_nominatim.answer("/reverse", 200, R"({"error":"Unable to geocode"})");
         const Outcome atSea = reverse(*geocoder, QGeoCoordinate(0, -30));
         QCOMPARE(atSea.error, QString());
         QVERIFY(atSea.placemarks.isEmpty());
-    }
 
-    void reportsNominatimFailures()
-    {
         m_nominatim.answer("/search", 503, "Service Unavailable");
-        const auto geocoder = makeGeocoder("nominatim:" + m_nominatim.url().toUtf8());
-        const Outcome outcome = search(*geocoder, QStringLiteral("Nairobi"));
-        QVERIFY(outcome.completed);
-        QVERIFY(!outcome.error.isEmpty());
-        QVERIFY(outcome.placemarks.isEmpty());
+        const Outcome failed = search(*geocoder, QStringLiteral("Nairobi"));
+        QVERIFY(!failed.error.isEmpty());
+        QVERIFY(failed.placemarks.isEmpty());
     }
 
 private:

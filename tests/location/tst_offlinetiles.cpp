@@ -1,15 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The shipped map tiles as the build painted them, checked at places whose
-// tiles and pixels were worked out by hand from the web-Mercator tiling; and
-// which city labels the painter places.
+// The map's zoom over a region, bounded by the shipped tiles; those tiles as
+// the build painted them, checked at places whose tiles and pixels were
+// worked out by hand from the web-Mercator tiling; and which city labels the
+// painter places.
 #include "CityLabels.h"
 #include "TileStyle.h"
+#include "location/MapCamera.h"
+#include "location/MapZoom.h"
 
+#include <QDir>
 #include <QImage>
+#include <QTemporaryDir>
 #include <QTest>
+
+#include <cmath>
 
 namespace
 {
+CoordinateRegion region(double latitude, double span)
+{
+    return CoordinateRegion { QGeoCoordinate(latitude, 0), span, span };
+}
+
+// Zoom at which `pixels` show `degrees` of longitude, 256-pixel tiles.
+double longitudeFit(double pixels, double degrees)
+{
+    return std::log2(pixels * 360 / (256 * degrees));
+}
 QImage tile(int zoom, int x, int y)
 {
     const QString path = QStringLiteral(TARNELO_TILE_DIRECTORY "/%1/%2/%3.png").arg(zoom).arg(x).arg(y);
@@ -22,6 +39,15 @@ QImage tile(int zoom, int x, int y)
 MapPlace place(const char *name, double x, double y, qint64 population, bool capital = false)
 {
     return { QString::fromLatin1(name), QPointF(x, y), population, capital };
+}
+
+// How many pixels of a tile's row have the colour.
+int pixelsOfColour(const QImage &image, int row, QRgb colour)
+{
+    int count = 0;
+    for (int column = 0; column < image.width(); ++column)
+        count += (image.pixel(column, row) & RGB_MASK) == (colour & RGB_MASK);
+    return count;
 }
 } // namespace
 
@@ -56,25 +82,13 @@ private Q_SLOTS:
     }
 
     // A ring drawn with its jump across the antimeridian left in makes a
-    // band round the whole world at the latitudes where it crosses.
-    void ringsAcrossTheAntimeridianLeaveNoBand_data()
-    {
-        QTest::addColumn<int>("x");
-        QTest::addColumn<int>("y");
-        QTest::newRow("Fiji's latitude, open Pacific (135° W to 90° W)") << 1 << 4;
-        QTest::newRow("Chukotka's latitudes, Norwegian Sea and Scandinavia") << 4 << 1;
-    }
-
+    // band round the whole world at the latitudes where it crosses: Fiji's,
+    // over the open Pacific, and Chukotka's, over the Norwegian Sea.
     void ringsAcrossTheAntimeridianLeaveNoBand()
     {
-        QFETCH(int, x);
-        QFETCH(int, y);
-        const QImage image = tile(3, x, y);
-        for (int row = 0; row < image.height(); ++row) {
-            int water = 0;
-            for (int column = 0; column < image.width(); ++column)
-                water += (image.pixel(column, row) & RGB_MASK) == (TileStyle::water & RGB_MASK);
-            QVERIFY2(water > 0, qPrintable(QStringLiteral("row %1 has no water").arg(row)));
+        for (const QImage &image : { tile(3, 1, 4), tile(3, 4, 1) }) {
+            for (int row = 0; row < image.height(); ++row)
+                QVERIFY2(pixelsOfColour(image, row, TileStyle::water) > 0, qPrintable(QStringLiteral("row %1 has no water").arg(row)));
         }
     }
 
@@ -84,13 +98,9 @@ private Q_SLOTS:
     void antarcticaReachesTheSouthernEdge()
     {
         int land = 0;
-        int pixels = 0;
-        for (int x = 0; x < 4; ++x) {
-            const QImage image = tile(2, x, 3);
-            for (int column = 0; column < image.width(); ++column, ++pixels)
-                land += (image.pixel(column, image.height() - 1) & RGB_MASK) == (TileStyle::land & RGB_MASK);
-        }
-        QVERIFY2(land > pixels * 9 / 10, qPrintable(QStringLiteral("%1 of %2 pixels are land").arg(land).arg(pixels)));
+        for (int x = 0; x < 4; ++x)
+            land += pixelsOfColour(tile(2, x, 3), 255, TileStyle::land);
+        QVERIFY2(land > 4 * 256 * 9 / 10, qPrintable(QStringLiteral("%1 of %2 pixels are land").arg(land).arg(4 * 256)));
     }
 
     void labelsGoToCapitalsFirstAndNeverOverlap()
@@ -110,6 +120,54 @@ private Q_SLOTS:
         QCOMPARE(labelled(3), QStringList { QStringLiteral("Capital") });
         QCOMPARE(labelled(5), (QStringList { QStringLiteral("Capital"), QStringLiteral("Far") }));
         QCOMPARE(labelled(6), (QStringList { QStringLiteral("Capital"), QStringLiteral("Far"), QStringLiteral("Smaller") }));
+    }
+
+    void theTighterSpanDecides()
+    {
+        // A whole tile shows the whole world's width at zoom 0.
+        QCOMPARE(zoomLevelShowing(CoordinateRegion { QGeoCoordinate(0, 0), 1, 360 }, QSizeF(256, 256)), 0.0);
+        // A phone held upright: the width is the short side.
+        QVERIFY(qFuzzyCompare(zoomLevelShowing(region(-1.2864, 0.05), QSizeF(390, 700)), longitudeFit(390, 0.05)));
+        // At 60° a degree of latitude is drawn twice as tall: one zoom level less to fit it.
+        QVERIFY(std::abs(zoomLevelShowing(region(60, 0.05), QSizeF(400, 400)) - (longitudeFit(400, 0.05) - 1)) < 1e-3);
+        // A wide, low view: the height decides.
+        QVERIFY(zoomLevelShowing(region(0, 0.05), QSizeF(1000, 200)) < longitudeFit(1000, 0.05) - 2);
+    }
+
+    void neverBelowTheWholeWorld()
+    {
+        QCOMPARE(zoomLevelShowing(region(0, 0.05), QSizeF(390, 0)), 0.0);
+        QCOMPARE(zoomLevelShowing(CoordinateRegion { QGeoCoordinate(0, 0), 170, 360 }, QSizeF(64, 64)), 0.0);
+        // Near a pole the span is measured up to the Mercator map's edge.
+        QVERIFY(std::isfinite(zoomLevelShowing(region(89.99, 0.05), QSizeF(390, 700))));
+    }
+
+    void shippedTilesBoundTheZoomToTheirDeepestLevel()
+    {
+        QTemporaryDir tiles;
+        QCOMPARE(deepestTileLevel(tiles.path()), -1);
+        QCOMPARE(deepestTileLevel(tiles.filePath(QStringLiteral("missing"))), -1);
+        // Levels are numbers, not names: 10 is deeper than 9; anything else is no level.
+        for (const char *name : { "0", "2", "9", "10", "cache", "11.png" })
+            QVERIFY(QDir(tiles.path()).mkdir(QString::fromLatin1(name)));
+        QCOMPARE(deepestTileLevel(tiles.path()), 10);
+
+        QCOMPARE(zoomLevelWithinTiles(13.5, 6), 6.0);
+        QCOMPARE(zoomLevelWithinTiles(3.5, 6), 3.5);
+        // A server's tiles have no deepest level: the map's own maximum holds.
+        QCOMPARE(zoomLevelWithinTiles(13.5, -1), 13.5);
+    }
+
+    // --map-view LAT,LON,ZOOM: the whole world (zoom 0) is a view; a negative
+    // zoom, a place off the globe or a missing number is none.
+    void mapViewTextNeedsAPlaceAndAZoomOfZeroOrMore()
+    {
+        const std::optional<MapCamera> world = MapCamera::fromText(QStringLiteral("0,0,0"));
+        QVERIFY(world);
+        QCOMPARE(world->zoomLevel, 0.0);
+        QCOMPARE(MapCamera::fromText(QStringLiteral("-4.05,39.67,6"))->center, QGeoCoordinate(-4.05, 39.67));
+        for (const char *refused : { "0,0,-1", "91,0,3", "0,0", "x,0,3" })
+            QVERIFY2(!MapCamera::fromText(QString::fromLatin1(refused)), refused);
     }
 };
 

@@ -5,16 +5,13 @@
 
 #include <ctime>
 #include <fstream>
-#include <sstream>
 
 namespace
 {
 nlohmann::json recording(const std::string &name)
 {
     std::ifstream file(std::string(OPEN_METEO_RECORDINGS) + "/" + name);
-    std::stringstream text;
-    text << file.rdbuf();
-    return nlohmann::json::parse(text.str());
+    return nlohmann::json::parse(file);
 }
 
 // The recording as if made now: every time moved by whole hours.

@@ -4,11 +4,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QRegularExpression>
 #include <QTest>
 
-#include <atomic>
-#include <cstring>
 #include <memory>
 #include <set>
 #include <sqlite3.h>
@@ -17,7 +16,7 @@
 
 namespace
 {
-const char *const userFields[] = { "userid", "fullname", "phonenumber", "emailaddress", "dateofbirth", "gender", "registerdate" };
+const char *const userFields[] = { "fullname", "phonenumber", "emailaddress", "dateofbirth", "gender", "registerdate" };
 const QLatin1String wrongCredentials("Incorrect email address or password.");
 const QRegularExpression sessionToken(QStringLiteral("^[0-9a-f]{32}$"));
 
@@ -28,19 +27,14 @@ httplib::Params registration(const std::string &email, const std::string &passwo
              { "referral_code", "" } };
 }
 
+// Every field holds its own name, so that a field stored in another's place shows.
 httplib::Params medicalProfile(const std::string &userId, const std::string &condition)
 {
-    return { { "userid", userId },
-             { "conditionstatus", "Yes" },
-             { "conditionname", condition },
-             { "emergencycontact", "Charles Babbage" },
-             { "phonenumber", "+44 1" },
-             { "relationship", "Friend" },
-             { "weight", "55" },
-             { "height", "165" },
-             { "smokerstatus", "No" },
-             { "smoker", "" },
-             { "moredetails", "Carries an inhaler" } };
+    httplib::Params profile { { "userid", userId } };
+    for (const char *key :
+         { "conditionstatus", "conditionname", "emergencycontact", "phonenumber", "relationship", "weight", "height", "smokerstatus", "smoker", "moredetails" })
+        profile.emplace(key, condition + " " + key);
+    return profile;
 }
 
 QString modeOf(const QString &path)
@@ -111,8 +105,8 @@ private Q_SLOTS:
     // Each case is a client of its own, so that one case's failed logins do not hold back the next.
     void init() { m_client = newClient(); }
 
-    // One account through register, login, update and the medical profile,
-    // each answer carrying what the previous step stored.
+    // One account through register, login, update, the medical profile and
+    // logout, each answer carrying what the previous step stored.
     void accountRoundTrip()
     {
         const nlohmann::json registered = registerUser("ada@example.test", "Analytical-Engine-1843");
@@ -120,71 +114,33 @@ private Q_SLOTS:
         QCOMPARE(field(registered, "userid"), QString());
         QCOMPARE(field(registered, "dateofbirth"), QLatin1String("1815-12-10"));
         QVERIFY(field(registered, "registerdate").contains(QRegularExpression(QStringLiteral("^\\d{4}-\\d\\d-\\d\\d \\d\\d:\\d\\d:\\d\\d$"))));
-
         const nlohmann::json loggedIn = login("ada@example.test", "Analytical-Engine-1843");
-        QCOMPARE(field(loggedIn, "scode"), QLatin1String("1"));
         for (const char *key : userFields)
-            if (std::strcmp(key, "userid") != 0)
-                QCOMPARE(field(loggedIn, key), field(registered, key));
-        const std::string userId = token("ada@example.test", "Analytical-Engine-1843");
-        QVERIFY2(userId != field(loggedIn, "userid").toStdString(), "each login opens a session of its own");
+            QCOMPARE(field(loggedIn, key), field(registered, key));
 
-        const nlohmann::json updated = m_client
-                                           ->script("updateuser.php",
-                                                    { { "fullname", "Augusta Ada King" },
-                                                      { "emailaddress", "augusta@example.test" },
-                                                      { "phonenumber", "+44 20 0000 0002" },
-                                                      { "dateofbirth", "1815-12-11" },
-                                                      { "gender", "3" },
-                                                      { "userid", userId } })
-                                           .first();
-        QCOMPARE(field(updated, "dateofbirth"), QLatin1String("1815-12-11"));
+        const std::string userId = token("ada@example.test", "Analytical-Engine-1843");
+        const httplib::Params update {
+            { "fullname", "Augusta Ada King" }, { "emailaddress", "augusta@example.test" }, { "dateofbirth", "1815-12-11" }, { "userid", userId }
+        };
+        QCOMPARE(field(m_client->script("updateuser.php", update).first(), "dateofbirth"), QLatin1String("1815-12-11"));
         QCOMPARE(field(login("augusta@example.test", "Analytical-Engine-1843"), "fullname"), QLatin1String("Augusta Ada King"));
         QCOMPARE(field(login("ada@example.test", "Analytical-Engine-1843"), "scode"), QLatin1String("0"));
 
-        const httplib::Params readBack { { "userid", userId },   { "conditionstatus", "0" }, { "conditionname", "0" }, { "emergencycontact", "0" },
-                                         { "phonenumber", "0" }, { "relationship", "0" },    { "weight", "0" },        { "height", "0" },
-                                         { "smoker", "0" },      { "smokerstatus", "0" },    { "moredetails", "0" } };
         httplib::Params medical = medicalProfile(userId, "Asthma");
         QCOMPARE(field(m_client->script("savemedical.php", medical).first(), "scode"), QLatin1String("1"));
         // Saving again replaces the profile rather than adding a second one.
         medical.find("weight")->second = "56";
         QCOMPARE(field(m_client->script("savemedical.php", medical).first(), "scode"), QLatin1String("1"));
-
-        const Answer details = m_client->script("checkmedicaldetails.php", readBack);
+        const Answer details = m_client->script("checkmedicaldetails.php", { { "userid", userId } });
         QCOMPARE(details.body.size(), size_t(1));
         for (const auto &[key, value] : medical)
             if (key != "userid")
                 QCOMPARE(field(details.first(), key.c_str()), QString::fromStdString(value));
-    }
 
-    // An address is taken in every letter case, by registering and by updating,
-    // and the refusal does not say that it has an account.
-    void duplicateEmailIsRefused()
-    {
-        QCOMPARE(field(registerUser("grace@example.test", "Cobol-1959"), "scode"), QLatin1String("1"));
-        for (const char *email : { "grace@example.test", "GRACE@Example.TEST" }) {
-            const nlohmann::json refused = registerUser(email, "Another-1");
-            QCOMPARE(field(refused, "scode"), QLatin1String("0"));
-            QCOMPARE(field(refused, "messageresponse"),
-                     QLatin1String("This email address cannot be used to register. If it is yours, log in or reset your password."));
-        }
-        registerUser("hopper@example.test", "Mark-II-1947");
-        const Answer update = m_client->script(
-            "updateuser.php",
-            { { "fullname", "G. Hopper" }, { "emailaddress", "Grace@example.test" }, { "userid", token("hopper@example.test", "Mark-II-1947") } });
-        QCOMPARE(field(update.first(), "scode"), QLatin1String("0"));
-        QCOMPARE(field(login("hopper@example.test", "Mark-II-1947"), "scode"), QLatin1String("1"));
-    }
-
-    // The answer must not reveal whether an address has an account.
-    void wrongPasswordAndUnknownAddressLookAlike()
-    {
-        registerUser("turing@example.test", "Bombe-1940");
-        const nlohmann::json wrongPassword = login("turing@example.test", "bombe-1940");
-        QCOMPARE(field(wrongPassword, "scode"), QLatin1String("0"));
-        QCOMPARE(field(wrongPassword, "messageresponse"), wrongCredentials);
-        QCOMPARE(dumped(login("nobody@example.test", "Bombe-1940")), dumped(wrongPassword));
+        // Logout ends the one session it names.
+        QCOMPARE(field(m_client->script("logout.php", { { "userid", userId } }).first(), "scode"), QLatin1String("1"));
+        QCOMPARE(dumped(m_client->script("checkmedicaldetails.php", { { "userid", userId } }).body), QLatin1String("[]"));
+        QCOMPARE(m_client->script("checkmedicaldetails.php", { { "userid", field(loggedIn, "userid").toStdString() } }).body.size(), size_t(1));
     }
 
     void resetReplacesThePasswordWithoutAnsweringIt()
@@ -233,39 +189,24 @@ private Q_SLOTS:
         for (const auto &[script, params] : writes)
             QCOMPARE(field(m_client->script(script, params).first(), "messageresponse"), QLatin1String("Your session has ended. Please log in again."));
 
-        const Answer aliceUpdated
-            = m_client->script("updateuser.php", { { "userid", alice }, { "fullname", "Alice Liddell" }, { "emailaddress", "liddell@example.test" } });
-        QCOMPARE(field(aliceUpdated.first(), "fullname"), QLatin1String("Alice Liddell"));
-        const nlohmann::json bobAgain = login("bob@example.test", "Bob-Pass-1");
-        QCOMPARE(field(bobAgain, "fullname"), QLatin1String("Ada Lovelace"));
-        QCOMPARE(field(m_client->script("checkmedical.php", { { "userid", bob } }).first(), "conditionname"), QLatin1String("Asthma"));
+        QCOMPARE(field(login("bob@example.test", "Bob-Pass-1"), "fullname"), QLatin1String("Ada Lovelace"));
+        QCOMPARE(field(m_client->script("checkmedical.php", { { "userid", bob } }).first(), "conditionname"), QLatin1String("Asthma conditionname"));
     }
 
-    // Logout ends the one session it names.
-    void sessionsEndOneAtATime()
-    {
-        registerUser("lovelace@example.test", "Notes-G-1843");
-        const std::string first = token("lovelace@example.test", "Notes-G-1843");
-        const std::string second = token("lovelace@example.test", "Notes-G-1843");
-
-        const nlohmann::json loggedOut = m_client->script("logout.php", { { "userid", first } }).first();
-        QCOMPARE(field(loggedOut, "scode"), QLatin1String("1"));
-        for (const char *key : userFields)
-            QCOMPARE(field(loggedOut, key), QString());
-        QCOMPARE(dumped(m_client->script("notification.php", { { "userid", first } }).body), QLatin1String("[]"));
-        QCOMPARE(field(m_client->script("logout.php", { { "userid", first } }).first(), "scode"), QLatin1String("0"));
-        QCOMPARE(m_client->script("notification.php", { { "userid", second } }).body.size(), size_t(1));
-    }
-
-    // Five failures for an address, then even its right password waits, from
-    // any client, until the delay (1 s here) has passed.
+    // A wrong password and an unknown address get the same answer. Five
+    // failures for an address, then even its right password waits, from any
+    // client, until the delay (1 s here) has passed.
     void loginWaitsAfterFiveFailures()
     {
         registerUser("knuth@example.test", "TeX-1978");
-        for (int i = 0; i < 5; ++i)
+        const std::unique_ptr<BackendClient> elsewhere = newClient();
+        const nlohmann::json wrongPassword = login("knuth@example.test", "tex-1978");
+        QCOMPARE(field(wrongPassword, "scode"), QLatin1String("0"));
+        QCOMPARE(field(wrongPassword, "messageresponse"), wrongCredentials);
+        QCOMPARE(dumped(login("nobody@example.test", "TeX-1978", elsewhere.get())), dumped(wrongPassword));
+        for (int i = 0; i < 4; ++i)
             QCOMPARE(field(login("KNUTH@example.test", "MetaFont"), "messageresponse"), wrongCredentials);
         QVERIFY(field(login("knuth@example.test", "TeX-1978"), "messageresponse").startsWith(QLatin1String("Too many attempts. Please wait 1 second ")));
-        const std::unique_ptr<BackendClient> elsewhere = newClient();
         QCOMPARE(field(login("knuth@example.test", "TeX-1978", elsewhere.get()), "scode"), QLatin1String("0"));
         QTest::qSleep(1100);
         QCOMPARE(field(login("knuth@example.test", "TeX-1978", elsewhere.get()), "scode"), QLatin1String("1"));
@@ -273,21 +214,23 @@ private Q_SLOTS:
         QCOMPARE(field(login("knuth@example.test", "MetaFont", elsewhere.get()), "messageresponse"), wrongCredentials);
     }
 
-    // A client's failures count across addresses, and a refused registration or
-    // update is a failure too: each tells whether an address has an account.
-    void clientWaitsAfterFiveFailures()
+    // An address is taken in every letter case, by registering and by
+    // updating. The refusal does not say that it has an account, but counts
+    // as a failure: a client's failures count across addresses.
+    void takenAddressIsRefusedAndCounted()
     {
-        registerUser("lamport@example.test", "Paxos-1989");
-        registerUser("liskov@example.test", "CLU-1974");
-        const std::string liskov = token("liskov@example.test", "CLU-1974");
+        registerUser("grace@example.test", "Cobol-1959");
+        registerUser("hopper@example.test", "Mark-II-1947");
+        const std::string hopper = token("hopper@example.test", "Mark-II-1947");
         for (const char *email : { "guess1@example.test", "guess2@example.test", "guess3@example.test" })
-            QCOMPARE(field(login(email, "Paxos-1989"), "messageresponse"), wrongCredentials);
-        QCOMPARE(field(registerUser("lamport@example.test", "Probe-1"), "scode"), QLatin1String("0"));
-        QCOMPARE(field(m_client->script("updateuser.php", { { "userid", liskov }, { "fullname", "B" }, { "emailaddress", "lamport@example.test" } }).first(),
-                       "scode"),
-                 QLatin1String("0"));
-        QVERIFY(field(login("lamport@example.test", "Paxos-1989"), "messageresponse").startsWith(QLatin1String("Too many attempts.")));
-        QCOMPARE(field(login("lamport@example.test", "Paxos-1989", newClient().get()), "scode"), QLatin1String("1"));
+            QCOMPARE(field(login(email, "Cobol-1959"), "messageresponse"), wrongCredentials);
+        QCOMPARE(field(registerUser("GRACE@Example.TEST", "Another-1"), "messageresponse"),
+                 QLatin1String("This email address cannot be used to register. If it is yours, log in or reset your password."));
+        const httplib::Params update { { "userid", hopper }, { "fullname", "G. Hopper" }, { "emailaddress", "Grace@example.test" } };
+        QCOMPARE(field(m_client->script("updateuser.php", update).first(), "scode"), QLatin1String("0"));
+        QVERIFY(field(login("grace@example.test", "Cobol-1959"), "messageresponse").startsWith(QLatin1String("Too many attempts.")));
+        QCOMPARE(field(login("grace@example.test", "Cobol-1959", newClient().get()), "scode"), QLatin1String("1"));
+        QCOMPARE(field(login("hopper@example.test", "Mark-II-1947", newClient().get()), "scode"), QLatin1String("1"));
     }
 
     // httplib serves from a pool of threads: parallel writes must all land,
@@ -296,26 +239,22 @@ private Q_SLOTS:
     {
         constexpr size_t burst = 16, feedbackPerUser = 25;
         std::vector<std::string> tokens(burst);
-        std::atomic<size_t> feedbackAccepted { 0 };
         std::vector<std::thread> threads;
         for (size_t i = 0; i < burst; ++i)
-            threads.emplace_back([this, i, &tokens, &feedbackAccepted] {
+            threads.emplace_back([this, i, &tokens] {
                 BackendClient client(*m_server);
                 const std::string email = "burst" + std::to_string(i) + "@example.test";
                 client.script("register.php", registration(email, "Parallel-Pass"));
                 tokens[i] = field(login(email, "Parallel-Pass", &client), "userid").toStdString();
                 for (size_t n = 0; n < feedbackPerUser; ++n)
-                    feedbackAccepted += field(client.script("feedbacks.php", { { "userid", tokens[i] }, { "feedback", "Busy day" } }).first(), "scode")
-                        == QLatin1String("1");
+                    client.script("feedbacks.php", { { "userid", tokens[i] }, { "feedback", "Busy day" } });
             });
         for (std::thread &thread : threads)
             thread.join();
         m_secrets.push_back("Parallel-Pass");
         m_secrets.insert(m_secrets.end(), tokens.begin(), tokens.end());
 
-        const std::set<std::string> distinct(tokens.begin(), tokens.end());
-        QCOMPARE(distinct.size(), burst);
-        QCOMPARE(feedbackAccepted.load(), burst * feedbackPerUser);
+        QCOMPARE(std::set<std::string>(tokens.begin(), tokens.end()).size(), burst);
         const QString dir = m_server->dataDir();
         QCOMPARE(queryNumber(dir, "SELECT COUNT(*) FROM users WHERE email LIKE 'burst%'"), qint64(burst));
         for (const char *table : { "subscriptions", "notifications" }) {
@@ -346,7 +285,9 @@ private Q_SLOTS:
     }
 
     // A restart on the same directory keeps the accounts, their sessions, and
-    // the certificate that clients already trust.
+    // the certificate that clients already trust. A directory and database
+    // left readable by others are narrowed at start; without the development
+    // flag a reset password stays off the console.
     void restartKeepsAccountsAndCertificate()
     {
         const std::string session = token("augusta@example.test", "Analytical-Engine-1843");
@@ -356,8 +297,22 @@ private Q_SLOTS:
         QCOMPARE(m_server->stop(), 0);
         QVERIFY(m_server->consoleLines().contains(QStringLiteral("Stopped.")));
 
-        DevServerProcess again(m_server->dataDir());
+        const QDir dir(m_server->dataDir());
+        const QString database = dir.filePath(QStringLiteral("devserver.sqlite"));
+        // Held open across the start, as a crashed run or a developer's shell
+        // would, so that the -wal and -shm files are there already.
+        sqlite3 *earlier = nullptr;
+        QCOMPARE(sqlite3_open(QFile::encodeName(database).constData(), &earlier), SQLITE_OK);
+        QCOMPARE(sqlite3_exec(earlier, "PRAGMA journal_mode=WAL; CREATE TABLE earlier (x);", nullptr, nullptr, nullptr), SQLITE_OK);
+        const QStringList files { database, database + QStringLiteral("-wal"), database + QStringLiteral("-shm") };
+        for (const QString &path : files + QStringList { dir.path() })
+            QVERIFY(::chmod(QFile::encodeName(path).constData(), 0755) == 0);
+        DevServerProcess again(dir.path(), {});
         QVERIFY(again.isReady());
+        for (const QString &path : files + QStringList { dir.path(), dir.filePath(QStringLiteral("tls")), dir.filePath(QStringLiteral("tls/key.pem")) })
+            QCOMPARE(path + QLatin1Char(' ') + modeOf(path), path + (QFileInfo(path).isDir() ? QStringLiteral(" 700") : QStringLiteral(" 600")));
+        sqlite3_close(earlier);
+
         QFile reused(again.caFile());
         QVERIFY(reused.open(QIODevice::ReadOnly));
         QCOMPARE(reused.readAll(), firstCertificate);
@@ -366,35 +321,8 @@ private Q_SLOTS:
         const Answer login = client.script("login.php", { { "username", "augusta@example.test" }, { "passcode", "Analytical-Engine-1843" } });
         QCOMPARE(field(login.first(), "scode"), QLatin1String("1"));
         QCOMPARE(queryNumber(again.dataDir(), "SELECT COUNT(*) FROM users WHERE email = 'demo@tarnelo.test'"), qint64(1));
-    }
-
-    // A data directory and database that an earlier run left readable by
-    // others are narrowed at start; without the development flag a reset
-    // password stays off the console.
-    void startNarrowsAnOpenDataDirectory()
-    {
-        QTemporaryDir dir;
-        const QString database = dir.filePath(QStringLiteral("devserver.sqlite"));
-        // Held open across the start, as a crashed run or a developer's shell
-        // would, so that the -wal and -shm files are there already.
-        sqlite3 *earlier = nullptr;
-        QCOMPARE(sqlite3_open(QFile::encodeName(database).constData(), &earlier), SQLITE_OK);
-        QCOMPARE(sqlite3_exec(earlier, "PRAGMA journal_mode=WAL; CREATE TABLE earlier (x);", nullptr, nullptr, nullptr), SQLITE_OK);
-        const QStringList files { database, database + QStringLiteral("-wal"), database + QStringLiteral("-shm") };
-        for (const QString &file : files)
-            QVERIFY(::chmod(QFile::encodeName(file).constData(), 0644) == 0);
-        QVERIFY(::chmod(QFile::encodeName(dir.path()).constData(), 0755) == 0);
-
-        DevServerProcess server(dir.path(), {});
-        QVERIFY(server.isReady());
-        QCOMPARE(modeOf(dir.path()), QStringLiteral("700"));
-        QCOMPARE(modeOf(dir.filePath(QStringLiteral("tls"))), QStringLiteral("700"));
-        for (const QString &file : files + QStringList { dir.filePath(QStringLiteral("tls/key.pem")) })
-            QVERIFY2(modeOf(file) == QLatin1String("600"), qPrintable(file + QLatin1Char(' ') + modeOf(file)));
-        sqlite3_close(earlier);
-
-        BackendClient(server).script("resetpass.php", { { "emailaddress", server.demoEmail().toStdString() } });
-        const QString reset = server.waitForConsoleLine(QStringLiteral("Password reset for ") + server.demoEmail());
+        client.script("resetpass.php", { { "emailaddress", again.demoEmail().toStdString() } });
+        const QString reset = again.waitForConsoleLine(QStringLiteral("Password reset for ") + again.demoEmail());
         QVERIFY(!reset.isEmpty());
         QVERIFY2(!reset.contains(QRegularExpression(QStringLiteral(": \\w{12}$"))), qPrintable(reset));
     }

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "BackendClient.h"
 #include "common/DevServerProcess.h"
+#include "server/AqiScale.h"
 
+#include <QRegularExpression>
 #include <QTest>
 
+#include <limits>
 #include <memory>
 
 namespace
@@ -11,9 +14,24 @@ namespace
 // The keys of every account answer, accepted or refused.
 const std::vector<std::string> loginModel { "userid", "fullname",     "phonenumber", "emailaddress",   "dateofbirth",
                                             "gender", "registerdate", "scode",       "messageresponse" };
+constexpr std::int64_t newYear2026 = 1767225600; // 2026-01-01 00:00 UTC
+constexpr std::int64_t week = 7 * 24 * 3600;
+
+// The eight concentrations of a record: as text in the scripts' answers, as numbers in history's.
+Pollutants pollutants(const nlohmann::json &record, const char *pm25Key)
+{
+    const auto number = [&record](const char *key) { return record.at(key).is_string() ? field(record, key).toDouble() : record.at(key).get<double>(); };
+    return { number("co"), number("no"), number("no2"), number("o3"), number("so2"), number(pm25Key), number("pm10"), number("nh3") };
+}
+
+httplib::Params historyQuery(std::int64_t start, std::int64_t end, const std::string &appid = DevServerProcess::historyKey().toStdString())
+{
+    return { { "lat", "28.61" }, { "lon", "77.21" }, { "start", std::to_string(start) }, { "end", std::to_string(end) }, { "appid", appid } };
+}
 } // namespace
 
-// What every answer looks like, for good input and bad, as the app decodes it.
+// What every answer looks like, for good input and bad, as the app decodes it,
+// and readings that fit together.
 class DevServerContractTest : public QObject
 {
     Q_OBJECT
@@ -120,7 +138,59 @@ private Q_SLOTS:
                 QVERIFY2(!line.contains(secret), qPrintable(line));
     }
 
-    void stopsCleanlyOnSigterm() { QCOMPARE(m_server->stop(), 0); }
+    // The category is the EPA's for exactly the concentrations in the answer;
+    // that they repeat within a cell and hour is tst_air_scale's.
+    void airQualityAgreesWithItsConcentrations()
+    {
+        const QRegularExpression decimal(QStringLiteral("^\\d+\\.\\d\\d$"));
+        const std::pair<const char *, const char *> places[]
+            = { { "51.5", "-0.12" }, { "28.61", "77.21" }, { "39.9", "116.4" }, { "0", "-160" }, { "-89.9", "0" } };
+        for (const auto &[lat, lon] : places) {
+            const nlohmann::json air = m_client->script("airquality.php", { { "lat", lat }, { "lon", lon } }).first();
+            for (const char *key : { "co", "no", "no2", "o3", "so2", "pm25", "pm10", "nh3" })
+                QVERIFY2(field(air, key).contains(decimal), qPrintable(dumped(air)));
+            QCOMPARE(field(air, "aqi"), QString::number(usEpaCategory(pollutants(air, "pm25"))));
+        }
+    }
+
+    // Whole hours from start to end, both ends included when on the hour.
+    void historyHasOneEntryPerHour()
+    {
+        const Answer answer = history(*m_server, historyQuery(newYear2026, newYear2026 + week));
+        QCOMPARE(answer.status, 200);
+        const nlohmann::json &list = answer.body.at("list");
+        QCOMPARE(list.size(), size_t(7 * 24 + 1));
+        QCOMPARE(answer.body.at("coord").at("lat").get<double>(), 28.61);
+        for (size_t i = 0; i < list.size(); ++i) {
+            QCOMPARE(list[i].at("dt").get<std::int64_t>(), newYear2026 + std::int64_t(i) * 3600);
+            const nlohmann::json &components = list[i].at("components");
+            QVERIFY(components.size() == 8 && std::all_of(components.begin(), components.end(), [](const nlohmann::json &v) { return v.is_number(); }));
+            QCOMPARE(list[i].at("main").at("aqi").get<int>(), openWeatherIndex(pollutants(components, "pm2_5")));
+        }
+        const Answer offTheHour = history(*m_server, historyQuery(newYear2026 + 1, newYear2026 + week));
+        QCOMPARE(offTheHour.body.at("list").size(), size_t(7 * 24));
+        QCOMPARE(offTheHour.body.at("list").front().at("dt").get<std::int64_t>(), newYear2026 + 3600);
+    }
+
+    void historyRefusesLikeTheRealService()
+    {
+        const Answer wrongKey = history(*m_server, historyQuery(newYear2026, newYear2026 + 3600, "not-the-key"));
+        QCOMPARE(wrongKey.status, 401);
+        QCOMPARE(wrongKey.body.at("cod").get<int>(), 401);
+        QCOMPARE(QString::fromStdString(wrongKey.body.at("message").get<std::string>()),
+                 QLatin1String("Invalid API key. Please see https://openweathermap.org/faq#error401 for more info."));
+
+        const std::int64_t last = std::numeric_limits<std::int64_t>::max();
+        httplib::Params noEnd = historyQuery(0, 0), badLatitude = historyQuery(0, 1);
+        noEnd.erase("end");
+        badLatitude.find("lat")->second = "north";
+        for (const httplib::Params &query : { historyQuery(newYear2026, newYear2026 - 1), historyQuery(newYear2026, newYear2026 + 366 * 24 * 3600),
+                                              historyQuery(last - 1, last), noEnd, badLatitude }) {
+            const Answer refused = history(*m_server, query);
+            QCOMPARE(refused.status, 400);
+            QVERIFY2(refused.body.at("cod") == "400" && refused.body.at("message").is_string(), qPrintable(dumped(refused.body)));
+        }
+    }
 };
 
 QTEST_GUILESS_MAIN(DevServerContractTest)

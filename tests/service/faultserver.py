@@ -2,25 +2,12 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """HTTPS servers on loopback that misbehave the ways a real network can.
 
-The first path segment picks the behaviour, so a test points the app's
-backend address at https://127.0.0.1:PORT/<behaviour> and every script the
-app sends gets that behaviour:
-
-  ok        200 and "[]"
-  hop       302 to the same path under /ok on this host
-  away      302 to the same path on the other host, 127.0.0.2
-  trickle   announces 1000 bytes, then sends one every half second
-  stall     reads the request and never answers
-  cut       announces 1000 bytes, sends 100, then ends the TCP stream
-            without a TLS close_notify
-  big       announces and sends 50 MiB
-  chunked   sends 50 MiB in chunks, the size unannounced
-
-The other host answers "[]" to anything and prints "other-host <target>" for
-each request that reaches it. Both use a throwaway certificate, made with
-openssl, valid for both addresses. Once both listen, one line goes to
-standard output: "ready <port> <other-port> <certificate file>". The servers
-stop when standard input closes, so they never outlive their test.
+The first path segment picks the behaviour (see the answer_ methods), so a
+test points the app at https://127.0.0.1:PORT/<behaviour>. The other host,
+127.0.0.2, answers "[]" to anything and prints "other-host <target>" for each
+request that reaches it. Once both listen, one line goes to standard output:
+"ready <port> <other-port> <certificate file>". They stop when standard input
+closes, so they never outlive their test.
 """
 
 import http.server
@@ -37,92 +24,75 @@ BLOCK = b" " * 65536
 BLOCKS_IN_BIG_BODY = 800  # 50 MiB
 
 
-def make_certificate(directory):
-    cert = os.path.join(directory, "cert.pem")
-    key = os.path.join(directory, "key.pem")
-    subprocess.run(
-        ["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days", "1",
-         "-subj", "/CN=127.0.0.1", "-addext", "subjectAltName=IP:127.0.0.1,IP:127.0.0.2", "-keyout", key, "-out", cert],
-        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-    return cert, key
-
-
-class Handler(http.server.BaseHTTPRequestHandler):
+class FaultHandler(http.server.BaseHTTPRequestHandler):
     protocol_version = "HTTP/1.1"
+    other_port = 0
 
     def log_message(self, *args):
         pass
 
-    def start_answer(self, status=200, headers=()):
+    def start_answer(self, status=200, **headers):
         self.send_response(status)
-        for name, value in headers:
-            self.send_header(name, value)
+        for name, value in headers.items():
+            self.send_header(name.replace("_", "-"), value)
         self.end_headers()
-
-    def send_empty_list(self):
-        self.start_answer(headers=[("Content-Type", "application/json"), ("Content-Length", "2")])
-        self.wfile.write(b"[]")
-
-
-class FaultHandler(Handler):
-    other_port = 0
 
     def do_GET(self):
         behaviour, _, rest = self.path.lstrip("/").partition("/")
         try:
-            getattr(self, "answer_" + behaviour, self.answer_unknown)(rest)
+            getattr(self, "answer_" + behaviour)(rest)
         except OSError:
             # The client gave up, which is what these answers are for.
             self.close_connection = True
 
-    def answer_unknown(self, _rest):
-        self.start_answer(404, [("Content-Length", "0")])
-
     def answer_ok(self, _rest):
-        self.send_empty_list()
+        self.start_answer(Content_Type="application/json", Content_Length="2")
+        self.wfile.write(b"[]")
 
     def answer_hop(self, rest):
-        self.start_answer(302, [("Location", "/ok/" + rest), ("Content-Length", "0")])
+        self.start_answer(302, Location="/ok/" + rest, Content_Length="0")
 
     def answer_away(self, rest):
-        self.start_answer(302, [("Location", "https://127.0.0.2:%d/away/%s" % (self.other_port, rest)), ("Content-Length", "0")])
+        self.start_answer(302, Location="https://127.0.0.2:%d/away/%s" % (self.other_port, rest), Content_Length="0")
 
     def answer_trickle(self, _rest):
+        """Announces 1000 bytes, then sends one every half second."""
         self.close_connection = True
-        self.start_answer(headers=[("Content-Length", "1000")])
+        self.start_answer(Content_Length="1000")
         while True:
             self.wfile.write(b" ")
             time.sleep(0.5)
 
     def answer_stall(self, _rest):
+        """Reads the request and never answers."""
         self.close_connection = True
         while self.connection.recv(1):
             pass
 
     def answer_cut(self, _rest):
+        """Announces 1000 bytes, sends 100, then ends the TCP stream without a TLS close_notify."""
         self.close_connection = True
-        self.start_answer(headers=[("Content-Length", "1000")])
+        self.start_answer(Content_Length="1000")
         self.wfile.write(b"[" + b" " * 99)
-        # An SSL socket shut down this way sends a FIN and no close_notify.
         self.connection.shutdown(socket.SHUT_WR)
 
     def answer_big(self, _rest):
-        self.start_answer(headers=[("Content-Length", str(BLOCKS_IN_BIG_BODY * len(BLOCK)))])
+        self.start_answer(Content_Length=str(BLOCKS_IN_BIG_BODY * len(BLOCK)))
         for _ in range(BLOCKS_IN_BIG_BODY):
             self.wfile.write(BLOCK)
 
     def answer_chunked(self, _rest):
-        self.start_answer(headers=[("Transfer-Encoding", "chunked")])
-        chunk = b"%x\r\n%s\r\n" % (len(BLOCK), BLOCK)
+        """As big, the size unannounced."""
+        self.start_answer(Transfer_Encoding="chunked")
         for _ in range(BLOCKS_IN_BIG_BODY):
-            self.wfile.write(chunk)
+            self.wfile.write(b"%x\r\n%s\r\n" % (len(BLOCK), BLOCK))
         self.wfile.write(b"0\r\n\r\n")
 
 
-class OtherHostHandler(Handler):
+class OtherHostHandler(FaultHandler):
     def do_GET(self):
         print("other-host", self.path, flush=True)
-        self.send_empty_list()
+        self.answer_ok("")
 
 
 def serve(address, handler, cert, key):
@@ -135,14 +105,14 @@ def serve(address, handler, cert, key):
     return server.server_address[1]
 
 
-def main():
-    with tempfile.TemporaryDirectory() as directory:
-        cert, key = make_certificate(directory)
-        FaultHandler.other_port = serve("127.0.0.2", OtherHostHandler, cert, key)
-        port = serve("127.0.0.1", FaultHandler, cert, key)
-        print("ready", port, FaultHandler.other_port, cert, flush=True)
-        sys.stdin.read()
-
-
-if __name__ == "__main__":
-    main()
+with tempfile.TemporaryDirectory() as directory:
+    cert = os.path.join(directory, "cert.pem")
+    key = os.path.join(directory, "key.pem")
+    subprocess.run(
+        ["openssl", "req", "-x509", "-newkey", "ec", "-pkeyopt", "ec_paramgen_curve:prime256v1", "-nodes", "-days", "1", "-subj", "/CN=127.0.0.1",
+         "-addext", "subjectAltName=IP:127.0.0.1,IP:127.0.0.2", "-keyout", key, "-out", cert],
+        check=True, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    FaultHandler.other_port = serve("127.0.0.2", OtherHostHandler, cert, key)
+    port = serve("127.0.0.1", FaultHandler, cert, key)
+    print("ready", port, FaultHandler.other_port, cert, flush=True)
+    sys.stdin.read()

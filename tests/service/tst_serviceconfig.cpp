@@ -13,34 +13,15 @@ class ServiceConfigTest : public QObject
 {
     Q_OBJECT
 
-    QTemporaryDir m_dataHome;
-
 private Q_SLOTS:
-    void initTestCase()
-    {
-        QVERIFY(m_dataHome.isValid());
-        qputenv("XDG_DATA_HOME", QFile::encodeName(m_dataHome.path()));
-    }
-
-    void caFileComesFromTheEnvironmentOrTheDataDirectory_data()
-    {
-        QTest::addColumn<QByteArray>("variable");
-        QTest::addColumn<QString>("expected");
-        QTest::newRow("unset: the backend's certificate in the user's data directory")
-            << QByteArray() << m_dataHome.filePath(QStringLiteral("tarnelo-backend/tls/cert.pem"));
-        QTest::newRow("relative: from the working directory")
-            << QByteArray("build/devserver-data/tls/cert.pem") << QStringLiteral("build/devserver-data/tls/cert.pem");
-    }
-
     void caFileComesFromTheEnvironmentOrTheDataDirectory()
     {
-        QFETCH(QByteArray, variable);
-        QFETCH(QString, expected);
-        if (variable.isNull())
-            qunsetenv("TARNELO_CA_FILE");
-        else
-            qputenv("TARNELO_CA_FILE", variable);
-        QCOMPARE(QDir::cleanPath(ServiceConfig::extraCaFile()), expected);
+        QTemporaryDir dataHome;
+        qputenv("XDG_DATA_HOME", QFile::encodeName(dataHome.path()));
+        qunsetenv("TARNELO_CA_FILE");
+        QCOMPARE(QDir::cleanPath(ServiceConfig::extraCaFile()), dataHome.filePath(QStringLiteral("tarnelo-backend/tls/cert.pem")));
+        qputenv("TARNELO_CA_FILE", "build/devserver-data/tls/cert.pem");
+        QCOMPARE(QDir::cleanPath(ServiceConfig::extraCaFile()), QStringLiteral("build/devserver-data/tls/cert.pem"));
     }
 };
 

@@ -1,11 +1,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
-"""Walks every screen of Tarnelo through AT-SPI, as a screen reader would, and
-fails on a control a screen reader cannot use: a button, tab, menu row, link
-or option without a name or without a Press action, a text field without a
-name, or a password field that hands over what was typed.
-
-The walk itself moves only through the accessibility interface: it presses
-the tabs, menu rows and links, and signs in by typing into the login form.
+"""Walks every screen of Tarnelo through AT-SPI, as a screen reader would,
+moving only through the accessibility interface: it presses the tabs, menu
+rows and links, and signs in by typing into the login form. It fails when a
+screen's own text is not read out, when a control has no name, or when a
+control is read out although it lies outside the window. What each control
+offers in-process, with every sheet open, is tst_accessibletree's.
 
 Usage (see atspi-walk.sh): atspi_walk.py APP EMAIL PASSWORD
 """
@@ -49,14 +48,6 @@ def showing(node):
         yield from showing(node.getChildAtIndex(index))
 
 
-def action_names(node):
-    try:
-        actions = node.queryAction()
-    except NotImplementedError:
-        return set()
-    return {actions.getName(index) for index in range(actions.nActions)}
-
-
 def text_of(node):
     try:
         text = node.queryText()
@@ -70,13 +61,11 @@ def overlaps(box, window):
 
 
 class Walk:
-    def __init__(self, app_path, secret):
+    def __init__(self, app_path):
         self.process = subprocess.Popen([app_path], stdout=subprocess.DEVNULL)
-        self.secret = secret
         self.app = wait_for(lambda: next((child for child in pyatspi.Registry.getDesktop(0) if child and child.name == "tarnelo"), None),
                             "the app on the accessibility bus")
         self.problems = []
-        self.counts = []
 
     def frame(self):
         return self.app.getChildAtIndex(0)
@@ -116,8 +105,6 @@ class Walk:
     def sign_in(self, email, password):
         self.type_into(wait_for(lambda: self.control("Enter Username; name@example.com", EDITABLE), "the e-mail field"), email)
         self.type_into(wait_for(lambda: self.control("", {pyatspi.ROLE_PASSWORD_TEXT}), "the password field"), password)
-        # Typed but not sent: the password is in the field, and must stay there.
-        self.check("login, filled in")
         self.press("Login", then="Login successful.")
 
     def out_of_sight(self):
@@ -132,26 +119,8 @@ class Walk:
             wait_for(lambda: not self.out_of_sight(), "", timeout=3)
         except Stuck:
             self.problems += [f'{screen}: "{name}" is out of sight but still read out' for name in self.out_of_sight()]
-        controls = 0
-        for node in showing(self.frame()):
-            role = node.getRole()
-            if os.environ.get("ATSPI_WALK_VERBOSE"):
-                print(f"  {screen}: {node.getRoleName()} '{node.name}'")
-            if role in PRESSABLE:
-                controls += 1
-                if not node.name.strip():
-                    self.problems.append(f"{screen}: a {node.getRoleName()} without a name")
-                if not action_names(node) & PRESS_ACTIONS:
-                    self.problems.append(f'{screen}: "{node.name}" cannot be pressed')
-            elif role in EDITABLE and node.parent.getRole() != pyatspi.ROLE_COMBO_BOX:
-                # A combo box's text shows its choice; the box has the name.
-                controls += 1
-                label = node.name or node.description
-                if not label.strip():
-                    self.problems.append(f"{screen}: a text field without a name")
-                if self.secret in text_of(node) or self.secret in node.name or self.secret in node.description:
-                    self.problems.append(f'{screen}: "{label}" hands over the password')
-        self.counts.append((screen, controls))
+        self.problems += [f"{screen}: a {node.getRoleName()} without a name" for node in showing(self.frame())
+                          if node.getRole() in PRESSABLE and not node.name.strip()]
 
     def stop(self):
         self.process.terminate()
@@ -163,7 +132,7 @@ def main():
     # The registry answers before the app starts, or the app never registers.
     pyatspi.Registry.getDesktop(0).childCount
     os.environ["TARNELO_POSITION"] = "fixed:-1.2864,36.8172"
-    walk = Walk(app_path, password)
+    walk = Walk(app_path)
     try:
         walk.reads("AQI", "Updated")
         walk.check("dashboard, guest")
@@ -197,8 +166,6 @@ def main():
     finally:
         walk.stop()
 
-    for screen, controls in walk.counts:
-        print(f"{screen}: {controls} controls")
     for problem in walk.problems:
         print(f"FAIL {problem}")
     sys.exit(1 if walk.problems else 0)

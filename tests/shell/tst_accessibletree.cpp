@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every screen as a screen reader meets it: each control a person can press
 // has a name and can be pressed through the accessibility interface, each
-// text field has a name, and a password field never hands its text over.
+// text field has a name, and a password field never hands its text over. And
+// as a person with low vision meets it: every text colour reaches 4.5:1
+// against its background.
 #include "common/ScreenWindow.h"
 #include "shell/HomeDestinations.h"
 #include "shell/QmlTypes.h"
@@ -10,6 +12,7 @@
 #include "storage/SQliteLogin.h"
 
 #include <QAccessible>
+#include <QColor>
 #include <QDir>
 #include <QFont>
 #include <QGuiApplication>
@@ -21,6 +24,7 @@
 #include <QTest>
 
 #include <algorithm>
+#include <cmath>
 #include <memory>
 
 namespace
@@ -184,6 +188,51 @@ bool readsAfter(const QRectF &earlier, const QRectF &later)
     const bool sameLine = later.top() < earlier.bottom() && earlier.top() < later.bottom();
     return sameLine ? later.left() >= earlier.left() : later.top() >= earlier.top();
 }
+
+struct TextOnBackground {
+    const char *where;
+    const char *text;
+    const char *background;
+    // A translucent theme colour laid over the background, or none.
+    const char *tint;
+};
+
+// The pairs the screens use, by their names in the theme. Large text would
+// need only 3:1, but each pair also carries small text somewhere.
+const TextOnBackground themePairs[] = {
+    { "body text", "label", "surface", nullptr },
+    { "body text on the grouped background", "label", "background", nullptr },
+    { "alert message", "label", "alertBackground", nullptr },
+    { "alert button", "blue", "alertBackground", nullptr },
+    { "captions and prompts", "secondaryLabel", "surface", nullptr },
+    { "captions on the grouped background", "secondaryLabel", "background", nullptr },
+    { "dates and placeholders", "tertiaryLabel", "surface", nullptr },
+    { "empty screens", "tertiaryLabel", "background", nullptr },
+    { "links and choices", "blue", "surface", nullptr },
+    { "links on the grouped background", "blue", "background", nullptr },
+    { "filled buttons and the dashboard header", "white", "blue", nullptr },
+    { "readings on the dashboard header", "white", "blue", "tileTint" },
+    { "tip and pollutant cards", "white", "kPrimary", nullptr },
+    { "weather panel", "white", "weatherPanel", nullptr },
+    { "weather readings", "white", "weatherPanel", "tileTint" },
+    { "tables and tips", "kOthers", "surface", nullptr },
+    { "account titles", "kPrimary", "surface", nullptr },
+};
+
+// Relative luminance as WCAG defines it, from sRGB.
+double luminance(const QColor &colour)
+{
+    const auto linear = [](double channel) { return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4); };
+    return 0.2126 * linear(colour.redF()) + 0.7152 * linear(colour.greenF()) + 0.0722 * linear(colour.blueF());
+}
+
+// What the renderer shows for a translucent colour over an opaque one.
+QColor over(const QColor &tint, const QColor &base)
+{
+    const double alpha = tint.alphaF();
+    const auto mix = [alpha](double top, double bottom) { return alpha * top + (1 - alpha) * bottom; };
+    return QColor::fromRgbF(mix(tint.redF(), base.redF()), mix(tint.greenF(), base.greenF()), mix(tint.blueF(), base.blueF()));
+}
 } // namespace
 
 class AccessibleTreeTest : public QObject
@@ -337,6 +386,28 @@ private Q_SLOTS:
         QVERIFY(control && control->actionInterface());
         control->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
         QVERIFY(card->property("turned").toBool());
+    }
+    void themeTextReachesItsMinimum()
+    {
+        QQmlComponent component(m_engine.get());
+        component.setData("import QtQml 2.15\nimport Tarnelo 1.0\nQtObject { readonly property QtObject theme: Theme }", QUrl());
+        const std::unique_ptr<QObject> holder(component.create());
+        QVERIFY2(holder, qPrintable(component.errorString()));
+        const QObject *theme = holder->property("theme").value<QObject *>();
+        QStringList unreadable;
+        for (const TextOnBackground &pair : themePairs) {
+            const QColor text = theme->property(pair.text).value<QColor>();
+            QColor background = theme->property(pair.background).value<QColor>();
+            QVERIFY2(text.isValid() && background.isValid(), pair.where);
+            if (pair.tint)
+                background = over(theme->property(pair.tint).value<QColor>(), background);
+            const double lighter = std::max(luminance(text), luminance(background));
+            const double darker = std::min(luminance(text), luminance(background));
+            const double ratio = (lighter + 0.05) / (darker + 0.05);
+            if (ratio < 4.5)
+                unreadable << QStringLiteral("%1: %2 on %3 is %4:1").arg(QLatin1String(pair.where), text.name(), background.name()).arg(ratio, 0, 'f', 2);
+        }
+        QVERIFY2(unreadable.isEmpty(), qPrintable(unreadable.join(QLatin1String("\n  "))));
     }
 };
 

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "account/AccountScreenModel.h"
+#include "storage/SQliteLogin.h"
+
+#include <QTest>
+
+#include <string>
+
+// Lets the event loop run until the screen's request has been answered.
+inline bool waitUntilAnswered(const AccountScreenModel &model)
+{
+    return QTest::qWaitFor([&model] { return !model.isLoading(); }, 5000);
+}
+
+// The backend's answer to an account request, as it names user 12, Amina.
+inline std::string answerWithCode(const char *code, const char *message = "Welcome back")
+{
+    return std::string(R"([{"userid":"12","fullname":"Amina Wanjiru","phonenumber":"0712","emailaddress":"amina@example.com","dateofbirth":"1990-04-02",)"
+                       R"("gender":"2","registerdate":"2026-01-05","scode":")")
+        + code + R"(","messageresponse":")" + message + R"("}])";
+}
+
+// Amina, user 12, signed in on this device.
+inline void storeAmina(const QString &gender = QStringLiteral("2"), const QString &dateofbirth = QStringLiteral("1990-04-02"))
+{
+    SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"), dateofbirth,
+                         gender, QStringLiteral("2026-01-05"));
+}
