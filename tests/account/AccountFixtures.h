@@ -22,6 +22,12 @@ inline std::string answerWithCode(const char *code, const char *message = "Welco
         + code + R"(","messageresponse":")" + message + R"("}])";
 }
 
+// The backend's answer holding Amina's saved medical profile.
+inline constexpr char savedMedicalProfile[]
+    = R"([{"id":"3","userid":"12","conditionstatus":"Yes","conditionname":"Asthma","emergencycontact":"Juma Otieno","phonenumber":"0722000111",)"
+      R"("relationship":"Spouse","weight":"64","height":"5.6","smokerstatus":"1-10 Light smoker","smoker":"Smoker","moredetails":"Inhaler at night",)"
+      R"("scode":"1","messageresponse":"ok"}])";
+
 // Amina, user 12, signed in on this device.
 inline void storeAmina(const QString &gender = QStringLiteral("2"), const QString &dateofbirth = QStringLiteral("1990-04-02"))
 {

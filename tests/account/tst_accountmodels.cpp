@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The login, registration and reset screens' models against a scripted backend.
+// The login, registration and reset screens' models against a scripted
+// backend, and the subscription screen's, which talks to none yet.
 #include "AccountFixtures.h"
 #include "account/EmailPattern.h"
 #include "account/LoginViewModel.h"
+#include "account/ProfileSubscriptionViewModel.h"
 #include "account/RegisterViewModel.h"
 #include "account/ResetPasswordViewModel.h"
 #include "common/ScriptedResponder.h"
@@ -184,6 +186,39 @@ private Q_SLOTS:
         QCOMPARE(m_responder->takeTargets(), QStringList { QStringLiteral("/tarnelo/v1/resetpass.php?emailaddress=amina@example.com") });
         model.alertAccepted();
         QCOMPARE(loginRequested.count(), 1);
+    }
+
+    void oneChannelAndOnePackageAtATime()
+    {
+        ProfileSubscriptionViewModel model;
+        model.setSelectedPaymentOption(1);
+        model.setSelectedPaymentOption(2);
+        QCOMPARE(model.selectedPaymentOption(), QVariant(2));
+        model.setSelectedPaymentOption(3);
+        model.setSelectedPaymentOption(QStringLiteral("one"));
+        QCOMPARE(model.selectedPaymentOption(), QVariant(2));
+
+        QSignalSpy packageChanged(&model, &ProfileSubscriptionViewModel::packageChanged);
+        model.choosePackage(QStringLiteral("Premium"));
+        QCOMPARE(model.selectedCategory(), QStringLiteral("Premium"));
+        QCOMPARE(model.selectedOption(), QStringLiteral("Premium"));
+        model.choosePackage(QStringLiteral("Select Package"));
+        QCOMPARE(model.selectedCategory(), QStringLiteral("Premium"));
+        QCOMPARE(packageChanged.count(), 1);
+    }
+
+    void subscribeNamesTheChoiceOrAsksForAChannel()
+    {
+        ProfileSubscriptionViewModel model;
+        model.subscribe();
+        QVERIFY(model.showingAlert());
+        QCOMPARE(model.alertMessage(), QStringLiteral("Please choose how to pay for the Freemium package"));
+
+        model.choosePackage(QStringLiteral("Premium"));
+        model.setSelectedPaymentOption(1);
+        model.subscribe();
+        QCOMPARE(model.alertMessage(),
+                 QStringLiteral("You chose the Premium package, paid by Mobile Payment (MPESA). Payments are not open yet; nothing has been charged."));
     }
 
     // Last: the backend goes away for good.

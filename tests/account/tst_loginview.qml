@@ -3,7 +3,8 @@ import QtQuick 2.15
 import QtTest 1.15
 
 // The account screens as a person uses them: from the login form to
-// registration and the password reset and back, with no backend involved.
+// registration and the password reset, with no backend involved. The links
+// back to the login are pressed by the AT-SPI walk.
 Item {
     id: window
     width: 390
@@ -51,7 +52,7 @@ Item {
             tryVerify(() => !alert.visible, 2000);
         }
 
-        function test_registerAndBack() {
+        function test_registerPickersShowTheModel() {
             mouseClick(find("registerNowLink"));
             waitForStack(2);
             const register = shownScreen();
@@ -65,24 +66,15 @@ Item {
             mouseClick(findChild(picker.contentItem, "option_Female"));
             tryVerify(() => !picker.visible, 2000);
             compare(findChild(register, "selectedGender").text, "Female");
-
-            // The link is under the fold of a phone's screen.
-            const scroller = findChild(register, "scroller");
-            scroller.contentY = scroller.contentHeight - scroller.height;
-            mouseClick(findChild(register, "loginNowLink"));
-            waitForStack(1);
         }
 
-        function test_resetAndBack() {
+        function test_resetButtonReachesTheModel() {
             mouseClick(find("forgetPasswordLink"));
             waitForStack(2);
             const reset = shownScreen();
             mouseClick(findChild(reset, "resetButton"));
             tryVerify(() => reset.viewModel.showingAlert, 2000);
             reset.viewModel.alertAccepted();
-
-            mouseClick(findChild(reset, "backToLoginLink"));
-            waitForStack(1);
         }
     }
 }

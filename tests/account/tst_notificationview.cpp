@@ -8,41 +8,32 @@
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-// Lets the QML test script the backend's notification answer and read the
-// requests that reached it.
-class ScriptedNotifications : public QObject
+// The screens' usual setup; the QML test, as "backend", scripts the
+// notification answer and reads the requests that reached it.
+class NotificationViewSetup : public QuickTestSetup
 {
     Q_OBJECT
 
 public:
-    Q_INVOKABLE void answer(int status, const QString &body) { m_responder.answer("/tarnelo/v1/notification.php", status, body.toStdString()); }
+    Q_INVOKABLE void answer(const QString &body) { m_responder.answer("/tarnelo/v1/notification.php", 200, body.toStdString()); }
     Q_INVOKABLE QStringList takeTargets() { return m_responder.takeTargets(); }
-    QString url() const { return m_responder.url(); }
-
-private:
-    ScriptedResponder m_responder;
-};
-
-class NotificationViewSetup : public QuickTestSetup
-{
-    Q_OBJECT
 
 public Q_SLOTS:
     void applicationAvailable()
     {
         QuickTestSetup::applicationAvailable();
-        qputenv("TARNELO_BACKEND_URL", m_backend.url().toUtf8());
+        qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8());
         storeAmina();
     }
 
     void qmlEngineAvailable(QQmlEngine *engine)
     {
         QuickTestSetup::qmlEngineAvailable(engine);
-        engine->rootContext()->setContextProperty(QStringLiteral("backend"), &m_backend);
+        engine->rootContext()->setContextProperty(QStringLiteral("backend"), this);
     }
 
 private:
-    ScriptedNotifications m_backend;
+    ScriptedResponder m_responder;
 };
 
 QUICK_TEST_MAIN_WITH_SETUP(notificationview, NotificationViewSetup)

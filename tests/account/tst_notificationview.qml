@@ -20,8 +20,9 @@ Item {
         }
 
         // Opens the screen on the scripted answer; it asks as it appears.
-        function open(status, body) {
-            backend.answer(status, body);
+        function open(body) {
+            warnings.restart();
+            backend.answer(body);
             backend.takeTargets();
             window.view = Qt.createComponent("qrc:/qml/NotificationView.qml").createObject(window, { width: 390, height: 700 });
             verify(window.view, "the notifications screen builds");
@@ -31,10 +32,6 @@ Item {
             compare(backend.takeTargets(), ["/tarnelo/v1/notification.php?userid=12"]);
         }
 
-        function init() {
-            warnings.restart();
-        }
-
         function cleanup() {
             window.view.destroy();
             wait(0);
@@ -42,7 +39,7 @@ Item {
         }
 
         function test_listsNotificationsWithTheUnreadMarked() {
-            open(200, JSON.stringify([
+            open(JSON.stringify([
                 // Long enough to wrap.
                 { id: "7", userid: "12", topic: "Welcome to Tarnelo", readmessage: "0", posteddate: "2026-01-05 09:12:40",
                   message: "Your account is ready. Check the air around you, and keep your medical profile up to date so that the advice fits you." },
@@ -60,13 +57,13 @@ Item {
         }
 
         function test_noNotificationsSaysSo() {
-            open(200, "[]");
+            open("[]");
             verify(find("emptyState").visible);
             compare(find("notificationList").count, 0);
         }
 
         function test_aFailedFetchShowsWhy() {
-            open(200, "[{\"topic\": 1}]");
+            open("[{\"topic\": 1}]");
             const error = find("fetchError");
             verify(error.visible);
             verify(error.text.startsWith("Failed to decode data: "), error.text);
@@ -76,7 +73,7 @@ Item {
         // Alerts sit above the list: off at first, which asks for nothing more;
         // on, the level starts from the medical profile.
         function test_airAlertsAboveTheList() {
-            open(200, "[]");
+            open("[]");
             const level = find("alertLevel");
             verify(!level.enabled, "no level to pick while alerts are off");
             find("airAlertsSwitch").toggle();

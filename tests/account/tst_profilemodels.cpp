@@ -1,13 +1,32 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-// The profile overview and the personal bio against a scripted backend.
+// The profile overview, the personal bio and the medical profile against a
+// scripted backend.
 #include "AccountFixtures.h"
 #include "account/ProfileDetailsModel.h"
+#include "account/ProfileMedicalViewModel.h"
 #include "account/ProfileViewModel.h"
 #include "common/ScriptedResponder.h"
+#include "service/NetworkSession.h"
 
+#include <QNetworkAccessManager>
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTest>
+
+namespace
+{
+const std::string savePath = "/tarnelo/v1/savemedical.php";
+const QString nonSmoker = QStringLiteral("Non-Smoker");
+
+void fillTextFields(ProfileMedicalViewModel &model)
+{
+    model.setConditionname(QStringLiteral("Asthma & hay fever"));
+    model.setEmergencycontact(QStringLiteral("Juma Otieno"));
+    model.setMobilenumber(QStringLiteral("+254 712 000111"));
+    model.setWeight(QStringLiteral("64"));
+    model.setHeight(QStringLiteral("5.6"));
+}
+} // namespace
 
 class ProfileModelsTest : public QObject
 {
@@ -22,9 +41,14 @@ private Q_SLOTS:
         qputenv("TARNELO_BACKEND_URL", m_responder.url().toUtf8());
     }
 
+    // A kept-alive connection would hold the server's shutdown up for a second.
+    void cleanupTestCase() { sharedNetworkSession().clearConnectionCache(); }
+
     void init()
     {
         SQliteLogin().deleteAll();
+        storeAmina();
+        m_responder.answer(savePath, 200, answerWithCode("1"));
         m_responder.answer("/tarnelo/v1/checksubscription.php", 200, "[]");
         m_responder.answer("/tarnelo/v1/checkmedical.php", 200, "[]");
         m_responder.takeTargets();
@@ -44,6 +68,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, code);
         QFETCH(QString, label);
+        SQliteLogin().deleteAll();
         storeAmina(code);
         ProfileViewModel overview;
         overview.refresh();
@@ -54,7 +79,6 @@ private Q_SLOTS:
 
     void overviewShowsTheStoredUserAndWhatTheBackendKeeps()
     {
-        storeAmina();
         m_responder.answer("/tarnelo/v1/checksubscription.php", 200,
                            R"([{"id":"4","type":"Premium","package":"Monthly","status":"Active"},{"id":"5","type":"Old","package":"Old","status":"Old"}])");
         ProfileViewModel overview;
@@ -70,7 +94,6 @@ private Q_SLOTS:
 
     void feedbackIsSentWholeAndOnlyWhenThereIsSome()
     {
-        storeAmina();
         ProfileViewModel overview;
         overview.refresh();
         overview.sendFeedback();
@@ -96,7 +119,6 @@ private Q_SLOTS:
 
     void logoutForgetsTheUserOnceAndOnlyAfterOk()
     {
-        storeAmina();
         ProfileViewModel overview;
         overview.refresh();
         QSignalSpy loggedOut(&overview, &ProfileViewModel::loggedOut);
@@ -118,7 +140,6 @@ private Q_SLOTS:
 
     void bioOpensWithTheStoredUser()
     {
-        storeAmina();
         ProfileDetailsModel bio;
         QCOMPARE(bio.emailAddress(), QStringLiteral("amina@example.com"));
         QCOMPARE(bio.dateOfBirth(), QDate(1990, 4, 2));
@@ -132,7 +153,6 @@ private Q_SLOTS:
 
     void acceptedBioReachesTheDeviceOnlyOnOk()
     {
-        storeAmina();
         ProfileDetailsModel bio;
         bio.setFullName(QStringLiteral("Amina W. Otieno"));
         bio.setEmailAddress(QStringLiteral(" amina.o@example.com "));
@@ -168,6 +188,79 @@ private Q_SLOTS:
         bio.alertAccepted();
         QCOMPARE(userUpdated.count(), 1);
         QCOMPARE(SQliteLogin().readAll().first().fullname, QStringLiteral("Amina W. Otieno"));
+    }
+
+    // Untouched pickers and details are sent as they stand; the category goes
+    // under "smokerstatus" and the yes/no under "smoker".
+    void saveSendsEveryFieldUnderTheBackendsKey()
+    {
+        ProfileMedicalViewModel model;
+        fillTextFields(model);
+        model.setSmokingstatus(QStringLiteral("Smoker"));
+        model.setSelectedCategory(QStringLiteral("Above 20 Heavy smoker"));
+        model.save();
+        QVERIFY(waitUntilAnswered(model));
+        QCOMPARE(m_responder.takeTargets(),
+                 QStringList { QStringLiteral("/tarnelo/v1/savemedical.php?userid=12&conditionstatus=Select&conditionname=Asthma%20%26%20hay%20fever"
+                                              "&emergencycontact=Juma%20Otieno&phonenumber=%2B254%20712%20000111&relationship=Select&weight=64&height=5.6"
+                                              "&smokerstatus=Above%2020%20Heavy%20smoker&smoker=Smoker"
+                                              "&moredetails=Provide%20more%20details%20of%20the%20medical%20condition") });
+    }
+
+    void everyTextFieldIsRequired()
+    {
+        using M = ProfileMedicalViewModel;
+        for (void (M::*blank)(const QString &) : { &M::setConditionname, &M::setEmergencycontact, &M::setMobilenumber, &M::setWeight, &M::setHeight }) {
+            M model;
+            fillTextFields(model);
+            (model.*blank)(QStringLiteral("  "));
+            model.save();
+            QCOMPARE(model.alertMessage(), QStringLiteral("All fields are required"));
+            QVERIFY(model.showingAlert() && !model.isLoading());
+        }
+        QTest::qWait(100);
+        QCOMPARE(m_responder.takeTargets(), QStringList());
+    }
+
+    // Unlike the other account screens, a refusal here says to try again
+    // instead of passing the backend's message on.
+    void refusedSaveAsksToTryAgain()
+    {
+        m_responder.answer(savePath, 200, answerWithCode("0"));
+        ProfileMedicalViewModel model;
+        fillTextFields(model);
+        model.save();
+        QVERIFY(model.isLoading());
+        QVERIFY(waitUntilAnswered(model));
+        QCOMPARE(model.alertMessage(), QStringLiteral("Please click ok and try register again"));
+    }
+
+    void storedDetailsFillTheForm()
+    {
+        m_responder.answer("/tarnelo/v1/checkmedicaldetails.php", 200, savedMedicalProfile);
+        ProfileMedicalViewModel model;
+        QSignalSpy changed(&model, &ProfileMedicalViewModel::inputChanged);
+        model.profileMedD()->fetch();
+        QVERIFY(changed.wait(5000));
+        QVERIFY(m_responder.takeTargets().value(0).startsWith(QStringLiteral("/tarnelo/v1/checkmedicaldetails.php?userid=12&")));
+        const QStringList shown { model.condition(),     model.conditionname(),  model.emergencycontact(), model.mobilenumber(),
+                                  model.relationship(),  model.weight(),         model.height(),           model.selectedCategory(),
+                                  model.smokingstatus(), model.valSmockstatus(), model.moredetails() };
+        QCOMPARE(shown.join(QLatin1Char('|')),
+                 QStringLiteral("Yes|Asthma|Juma Otieno|0722000111|Spouse|64|5.6|1-10 Light smoker|Smoker|"
+                                "1-10 Light smoker|Inhaler at night"));
+        QVERIFY(!model.isHidden());
+    }
+
+    void nonSmokerHidesAndResetsTheCategory()
+    {
+        ProfileMedicalViewModel model;
+        model.setSmokingstatus(QStringLiteral("Smoker"));
+        model.setSelectedCategory(QStringLiteral("Above 20 Heavy smoker"));
+        QVERIFY(!model.isHidden());
+        model.setSmokingstatus(nonSmoker);
+        QVERIFY(model.isHidden());
+        QCOMPARE(model.selectedCategory(), nonSmoker);
     }
 };
 

@@ -6,7 +6,6 @@
 #include <QQmlEngine>
 #include <QtQuickTest>
 
-#include <algorithm>
 #include <memory>
 
 // The screens' usual setup, plus the development backend with its demo
@@ -31,15 +30,6 @@ public Q_SLOTS:
         QuickTestSetup::qmlEngineAvailable(engine);
         engine->rootContext()->setContextProperty(QStringLiteral("demoEmail"), m_server->demoEmail());
         engine->rootContext()->setContextProperty(QStringLiteral("demoPassword"), m_server->demoPassword());
-        engine->rootContext()->setContextProperty(QStringLiteral("backend"), this);
-    }
-
-    // How many requests for a script reached the backend so far.
-    Q_INVOKABLE int requestsTo(const QString &script)
-    {
-        const QString path = QStringLiteral(" /tarnelo/v1/") + script + QLatin1Char('?');
-        const QStringList lines = m_server->consoleLines();
-        return int(std::count_if(lines.begin(), lines.end(), [&path](const QString &line) { return line.contains(path); }));
     }
 
 private:

@@ -39,23 +39,6 @@ Item {
             tryVerify(() => stack().depth === depth && !stack().busy, 3000);
         }
 
-        // Brings an item of the shown page into view, as a thumb would.
-        function scrollTo(item) {
-            const scroller = findChild(stack().currentItem, "scroller");
-            const y = item.mapToItem(scroller.contentItem, 0, 0).y;
-            scroller.contentY = Math.max(0, Math.min(y - 80, scroller.contentHeight - scroller.height));
-            wait(50);
-        }
-
-        // Each appearance of the overview asks once for each of its two lists.
-        function expectOneFetchEach(appearances) {
-            for (const script of ["checksubscription.php", "checkmedical.php"])
-                tryVerify(() => backend.requestsTo(script) >= appearances, 3000, script);
-            wait(200); // a duplicate would be sent at once, so it would be in by now
-            for (const script of ["checksubscription.php", "checkmedical.php"])
-                compare(backend.requestsTo(script), appearances, script);
-        }
-
         // Signs in against the backend; the session starts on the alert's "OK".
         function initTestCase() {
             login.emailAddress = demoEmail;
@@ -73,10 +56,8 @@ Item {
             const signedIn = login.date_fullname;
 
             compare(find("fullName").text, signedIn);
-            compare(find("genderLine").text, "Gender : Female", "the demo account is stored with code 2");
             // Every new account starts on the free package.
             tryCompare(find("categoryLine"), "text", "Category: Freemium", 5000);
-            expectOneFetchEach(1);
 
             // The bio, changed on the backend and on the device.
             mouseClick(find("bioLink"));
@@ -108,19 +89,10 @@ Item {
             compare(find("fullName").text, "Dana Otieno");
             compare(find("genderLine").text, "Gender : Others");
             compare(find("birthDateLine").text, "Date Of Birth: " + login.date_dateofbirth, "the wheels kept the stored day");
-            expectOneFetchEach(2);
 
-            // The other two screens the overview leads to, and back.
-            for (const link of ["medicalLink", "subscriptionLink"]) {
-                scrollTo(find(link));
-                mouseClick(find(link));
-                waitForStack(2);
-                mouseClick(findChild(stack().currentItem, "backButton"));
-                waitForStack(1);
-            }
-
-            // Logout asks first, then hands the window to a fresh login.
-            scrollTo(find("logoutButton"));
+            // Logout, at the foot of the page, asks first, then hands the window to a fresh login.
+            const scroller = findChild(stack().currentItem, "scroller");
+            scroller.contentY = scroller.contentHeight - scroller.height;
             mouseClick(find("logoutButton"));
             const confirmation = find("logoutAlert");
             tryVerify(() => confirmation.opened, 2000);

@@ -11,12 +11,7 @@
 // Runs the development backend (tarnelo-devserver) for one test: offline,
 // with simulated readings, on ports the system picks, and with a data
 // directory of its own. The constructor waits up to 15 s for the server to
-// report itself ready; check isReady() before using it. The destructor stops
-// the server with SIGTERM.
-//
-//     DevServerProcess server;
-//     QVERIFY2(server.isReady(), qPrintable(server.consoleLines().join('\n')));
-//     // trust server.caFile() as an extra CA, then talk to server.backendUrl()
+// report itself ready (see isReady()); the destructor stops it with SIGTERM.
 class DevServerProcess
 {
 public:

@@ -36,11 +36,6 @@ QImage tile(int zoom, int x, int y)
     return image;
 }
 
-MapPlace place(const char *name, double x, double y, qint64 population, bool capital = false)
-{
-    return { QString::fromLatin1(name), QPointF(x, y), population, capital };
-}
-
 // How many pixels of a tile's row have the colour.
 int pixelsOfColour(const QImage &image, int row, QRgb colour)
 {
@@ -66,7 +61,6 @@ private Q_SLOTS:
         QTest::newRow("central Africa (22.5° E, 21.9° N)") << 3 << 4 << 3 << QPoint(128, 128) << TileStyle::land;
         // Where the Baltic lands would be if north and south were swapped.
         QTest::newRow("the Southern Ocean (22.5° E, 55.8° S)") << 3 << 4 << 5 << QPoint(128, 128) << TileStyle::water;
-        QTest::newRow("the middle of the Pacific (112.5° W, 21.9° S)") << 3 << 1 << 4 << QPoint(128, 128) << TileStyle::water;
         // A hole in the land, kept as water.
         QTest::newRow("the Caspian Sea (50.5° E, 42° N)") << 4 << 10 << 5 << QPoint(62, 240) << TileStyle::water;
     }
@@ -107,8 +101,10 @@ private Q_SLOTS:
     {
         // At level 6 the world is 16,384 pixels wide: the big city is 20
         // pixels east of the capital, under the capital's name.
-        const QVector<MapPlace> places { place("Crowding", 0.5 + 20.0 / 16384, 0.5, 5000000), place("Capital", 0.5, 0.5, 100000, true),
-                                         place("Far", 0.25, 0.25, 2000000), place("Smaller", 0.75, 0.75, 300000) };
+        const QVector<MapPlace> places { { QStringLiteral("Crowding"), QPointF(0.5 + 20.0 / 16384, 0.5), 5000000, false },
+                                         { QStringLiteral("Capital"), QPointF(0.5, 0.5), 100000, true },
+                                         { QStringLiteral("Far"), QPointF(0.25, 0.25), 2000000, false },
+                                         { QStringLiteral("Smaller"), QPointF(0.75, 0.75), 300000, false } };
         const auto labelled = [&places](int zoom) {
             QStringList names;
             for (const CityLabel &label : placeCityLabels(places, zoom))
@@ -124,8 +120,6 @@ private Q_SLOTS:
 
     void theTighterSpanDecides()
     {
-        // A whole tile shows the whole world's width at zoom 0.
-        QCOMPARE(zoomLevelShowing(CoordinateRegion { QGeoCoordinate(0, 0), 1, 360 }, QSizeF(256, 256)), 0.0);
         // A phone held upright: the width is the short side.
         QVERIFY(qFuzzyCompare(zoomLevelShowing(region(-1.2864, 0.05), QSizeF(390, 700)), longitudeFit(390, 0.05)));
         // At 60° a degree of latitude is drawn twice as tall: one zoom level less to fit it.
@@ -137,7 +131,6 @@ private Q_SLOTS:
     void neverBelowTheWholeWorld()
     {
         QCOMPARE(zoomLevelShowing(region(0, 0.05), QSizeF(390, 0)), 0.0);
-        QCOMPARE(zoomLevelShowing(CoordinateRegion { QGeoCoordinate(0, 0), 170, 360 }, QSizeF(64, 64)), 0.0);
         // Near a pole the span is measured up to the Mercator map's edge.
         QVERIFY(std::isfinite(zoomLevelShowing(region(89.99, 0.05), QSizeF(390, 700))));
     }
@@ -146,7 +139,6 @@ private Q_SLOTS:
     {
         QTemporaryDir tiles;
         QCOMPARE(deepestTileLevel(tiles.path()), -1);
-        QCOMPARE(deepestTileLevel(tiles.filePath(QStringLiteral("missing"))), -1);
         // Levels are numbers, not names: 10 is deeper than 9; anything else is no level.
         for (const char *name : { "0", "2", "9", "10", "cache", "11.png" })
             QVERIFY(QDir(tiles.path()).mkdir(QString::fromLatin1(name)));

@@ -7,15 +7,17 @@
 #include "location/LoggingProvider.h"
 #include "location/PositionSetting.h"
 
-#include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTest>
 
 namespace
 {
-QGeoPositionInfo at(double latitude, double longitude)
+const QGeoCoordinate nairobi(-1.2864, 36.8172);
+const QGeoCoordinate paris(48.8566, 2.3522);
+
+QGeoPositionInfo at(const QGeoCoordinate &where)
 {
-    return QGeoPositionInfo(QGeoCoordinate(latitude, longitude), QDateTime::currentDateTimeUtc());
+    return QGeoPositionInfo(where, QDateTime::currentDateTimeUtc());
 }
 
 // The lines printed while `action` ran and the events it queued were handled.
@@ -28,11 +30,6 @@ template<typename Action> QStringList printedBy(Action &&action)
 }
 
 const QString denied = QStringLiteral("Location authorization denied or restricted.");
-
-std::string reverseAnswer(const char *address)
-{
-    return std::string(R"({"lat":"48.8566","lon":"2.3522","display_name":"Somewhere","address":)") + address + "}";
-}
 } // namespace
 
 // The providers driven by scripting their location service's callbacks.
@@ -49,13 +46,9 @@ private Q_SLOTS:
         QCOMPARE(PositionSetting::parse(QStringLiteral("geoclue"))->source, Source::Geoclue);
         QCOMPARE(PositionSetting::parse(QStringLiteral("denied"))->source, Source::Denied);
         QCOMPARE(PositionSetting::parse(QStringLiteral("none"))->source, Source::None);
-        const auto nmea = PositionSetting::parse(QStringLiteral("nmea:/tmp/walk:1.nmea"));
-        QCOMPARE(nmea->source, Source::Nmea);
-        QCOMPARE(nmea->nmeaFile, QStringLiteral("/tmp/walk:1.nmea"));
-        const auto fixed = PositionSetting::parse(QStringLiteral("fixed:-1.2921, 36.8219"));
-        QCOMPARE(fixed->source, Source::Fixed);
-        QCOMPARE(fixed->fixedPosition, QGeoCoordinate(-1.2921, 36.8219));
-        for (const char *text : { "fixed:91,0", "fixed:1", "fixed:1,2,3", "fixed:a,b", "fixed:1;2", "nmea:", "gps", "" })
+        QCOMPARE(PositionSetting::parse(QStringLiteral("nmea:/tmp/walk:1.nmea"))->nmeaFile, QStringLiteral("/tmp/walk:1.nmea"));
+        QCOMPARE(PositionSetting::parse(QStringLiteral("fixed:-1.2921, 36.8219"))->fixedPosition, QGeoCoordinate(-1.2921, 36.8219));
+        for (const char *text : { "fixed:91,0", "fixed:1,2,3", "fixed:a,b", "nmea:", "gps" })
             QVERIFY2(!PositionSetting::parse(QString::fromLatin1(text)), text);
         qputenv("TARNELO_POSITION", "fixed:north");
         QCOMPARE(PositionSetting::fromEnvironment().source, Source::Geoclue);
@@ -69,18 +62,14 @@ private Q_SLOTS:
         QCOMPARE(provider->authorizationStatus(), LocationService::AuthorizationStatus::Denied);
 
         LocationService *service = provider->locationManager();
-        QSignalSpy published(provider.get(), &LocationProvider::currentLocationChanged);
         QCOMPARE(printedBy([&] { Q_EMIT service->locationsUpdated({}); }), QStringList());
-        QCOMPARE(published.count(), 0);
         QVERIFY(!provider->currentLocation());
 
-        const QStringList batch = printedBy([&] { Q_EMIT service->locationsUpdated({ at(10, 20), at(-1.2864, 36.8172) }); });
+        const QStringList batch = printedBy([&] { Q_EMIT service->locationsUpdated({ at(paris), at(nairobi) }); });
         QCOMPARE(batch, QStringList { QStringLiteral("Latitude: -1.2864, Longitude: 36.8172") });
-        QCOMPARE(provider->currentLocation()->coordinate(), QGeoCoordinate(-1.2864, 36.8172));
-        // Every assignment notifies, also of the same place.
-        printedBy([&] { Q_EMIT service->locationsUpdated({ at(-1.2864, 36.8172) }); });
-        QCOMPARE(published.count(), 2);
-        QCOMPARE(printedBy([&] { Q_EMIT service->locationsUpdated({ at(48, 2) }); }), QStringList { QStringLiteral("Latitude: 48.0, Longitude: 2.0") });
+        QCOMPARE(provider->currentLocation()->coordinate(), nairobi);
+        const QGeoCoordinate wholeDegrees(48, 2);
+        QCOMPARE(printedBy([&] { Q_EMIT service->locationsUpdated({ at(wholeDegrees) }); }), QStringList { QStringLiteral("Latitude: 48.0, Longitude: 2.0") });
 
         QSignalSpy status(provider.get(), &LocationProvider::authorizationStatusChanged);
         QCOMPARE(printedBy([&] {
@@ -90,71 +79,55 @@ private Q_SLOTS:
                  }),
                  (QStringList { denied, denied, QStringLiteral("Location error: The position source failed.") }));
         QCOMPARE(status.count(), 2);
-        QCOMPARE(provider->currentLocation()->coordinate(), QGeoCoordinate(48, 2));
+        QCOMPARE(provider->currentLocation()->coordinate(), wholeDegrees);
     }
 
+    // The map takes one fix per start, centres on it at its own span, and
+    // keeps it through a failure.
     void mapProviderTakesOneFixPerStartAndKeepsItsSpan()
-    {
-        LocationManager map;
-        const CoordinateRegion before = map.region();
-        QVERIFY(!map.userLocation().isValid());
-        Q_EMIT map.locationManager()->locationsUpdated({ at(-1.2864, 36.8172), at(10, 20) });
-        QCOMPARE(map.userLocation(), QGeoCoordinate(-1.2864, 36.8172));
-        QCOMPARE(map.region().center, QGeoCoordinate(-1.2864, 36.8172));
-        QCOMPARE(map.region().latitudeDelta, before.latitudeDelta);
-        QCOMPARE(map.region().longitudeDelta, before.longitudeDelta);
-        QCOMPARE(printedBy([&] { Q_EMIT map.locationManager()->failedWithError(QStringLiteral("No fix.")); }),
-                 QStringList { QStringLiteral("Failed to find user's location: No fix.") });
-        QCOMPARE(map.userLocation(), QGeoCoordinate(-1.2864, 36.8172));
-    }
-
-    void mapProviderStopsAfterARealFix()
     {
         qputenv("TARNELO_POSITION", "fixed:48.8566,2.3522");
         LocationManager map;
+        const CoordinateRegion before = map.region();
         QSignalSpy fixes(&map, &LocationManager::userLocationChanged);
         map.startUpdatingLocation();
         QVERIFY(fixes.wait());
-        QCOMPARE(map.userLocation(), QGeoCoordinate(48.8566, 2.3522));
+        QCOMPARE(map.userLocation(), paris);
+        QCOMPARE(map.region().center, paris);
+        QCOMPARE(map.region().latitudeDelta, before.latitudeDelta);
+        QCOMPARE(map.region().longitudeDelta, before.longitudeDelta);
         QVERIFY(!map.locationManager()->isUpdatingLocation());
-        QTest::qWait(50);
+        QCOMPARE(printedBy([&] { Q_EMIT map.locationManager()->failedWithError(QStringLiteral("No fix.")); }),
+                 QStringList { QStringLiteral("Failed to find user's location: No fix.") });
         QCOMPARE(fixes.count(), 1);
+        QCOMPARE(map.userLocation(), paris);
         map.startUpdatingLocation();
         QVERIFY(fixes.wait());
     }
 
+    // The newest of a batch is named; a failed lookup prints its line and
+    // keeps the town shown.
     void geocodingProviderNamesTheTownOfTheNewest()
     {
         ScriptedResponder nominatim;
         qputenv("TARNELO_GEOCODER", "nominatim:" + nominatim.url().toUtf8());
-        std::unique_ptr<LocationManagerFunHD> provider;
-        QCOMPARE(printedBy([&] { provider = std::make_unique<LocationManagerFunHD>(); }), QStringList());
-        QCOMPARE(provider->authorizationStatus(), LocationService::AuthorizationStatus::Denied);
-        LocationService *service = provider->locationManager();
-        QSignalSpy named(provider.get(), &GeocodingProvider::townNameChanged);
-
-        nominatim.answer("/reverse", 200, reverseAnswer(R"({"city":"Paris","country":"France"})"));
-        Q_EMIT service->locationsUpdated({ at(-1.2864, 36.8172), at(48.8566, 2.3522) });
+        LocationManagerFunHD provider;
+        QSignalSpy named(&provider, &GeocodingProvider::townNameChanged);
+        nominatim.answer("/reverse", 200, R"({"lat":"48.8566","lon":"2.3522","display_name":"Paris","address":{"city":"Paris"}})");
+        Q_EMIT provider.locationManager()->locationsUpdated({ at(nairobi), at(paris) });
         QVERIFY(named.wait());
-        QCOMPARE(provider->townName(), QStringLiteral("Paris"));
-        QCOMPARE(provider->currentLocation()->coordinate(), QGeoCoordinate(48.8566, 2.3522));
+        QCOMPARE(provider.townName(), QStringLiteral("Paris"));
         QVERIFY(nominatim.takeTargets().value(0).contains(QLatin1String("lat=48.8566")));
 
         nominatim.answer("/reverse", 503, "Service Unavailable");
         const QStringList failed = printedBy([&] {
-            Q_EMIT service->locationsUpdated({ at(48.8566, 2.3522) });
+            Q_EMIT provider.locationManager()->locationsUpdated({ at(paris) });
             (void)QTest::qWaitFor([&] { return !nominatim.takeTargets().isEmpty(); }, 5000);
             QTest::qWait(100);
         });
         QCOMPARE(failed.size(), 1);
         QVERIFY2(failed.first().startsWith(QLatin1String("Error during reverse geocoding: ")), qPrintable(failed.first()));
-        QCOMPARE(provider->townName(), QStringLiteral("Paris"));
-        QCOMPARE(printedBy([&] { Q_EMIT service->failedWithError(QStringLiteral("No fix.")); }), QStringList());
-
-        nominatim.answer("/reverse", 200, reverseAnswer(R"({"country":"France"})"));
-        Q_EMIT service->locationsUpdated({ at(48.8566, 2.3522) });
-        QVERIFY(named.wait());
-        QVERIFY(provider->townName().isNull());
+        QCOMPARE(provider.townName(), QStringLiteral("Paris"));
     }
 
     // A device's source waits for the app's first frame, a fixed position
@@ -179,12 +152,8 @@ private Q_SLOTS:
             (void)QTest::qWaitFor([&] { return (lines += capture.takeLines()).size() >= 2; }, 5000);
         }
         QCOMPARE(held.authorizationStatus(), LocationService::AuthorizationStatus::AuthorizedWhenInUse);
-        QVERIFY2(lines.size() >= 2, qPrintable(lines.join(QLatin1Char('\n'))));
-        // The walk starts at the convention centre: 1°17.3256' S, 36°49.3950' E.
-        const QStringList parts = lines.first().split(QRegularExpression(QStringLiteral("[:,] ")));
-        QCOMPARE(parts.value(0), QStringLiteral("Latitude"));
-        QVERIFY(qAbs(parts.value(1).toDouble() + 1.28876) < 1e-6);
-        QVERIFY(qAbs(parts.value(3).toDouble() - 36.82325) < 1e-6);
+        // The walk starts at the convention centre, 1°17.3256' S.
+        QVERIFY2(lines.size() >= 2 && lines.first().startsWith(QLatin1String("Latitude: -1.28876")), qPrintable(lines.join(QLatin1Char('\n'))));
     }
 };
 

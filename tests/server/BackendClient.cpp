@@ -7,14 +7,10 @@ namespace
 {
 Answer answerOf(const httplib::Result &result)
 {
-    Answer answer;
     if (!result)
-        return answer;
-    answer.status = result->status;
-    answer.body = nlohmann::json::parse(result->body, nullptr, false);
-    if (answer.body.is_discarded())
-        answer.body = nullptr;
-    return answer;
+        return {};
+    const nlohmann::json body = nlohmann::json::parse(result->body, nullptr, false);
+    return { result->status, body.is_discarded() ? nlohmann::json() : body };
 }
 } // namespace
 

@@ -10,8 +10,7 @@
 
 class DevServerProcess;
 
-// A plain answer: the status (0 when none came) and the body as JSON (null
-// when it was not JSON).
+// A plain answer: the status (0 when none came) and the body as JSON (null if it was not JSON).
 struct Answer {
     int status = 0;
     nlohmann::json body;

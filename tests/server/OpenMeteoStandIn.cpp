@@ -50,22 +50,12 @@ QStringList OpenMeteoStandIn::backendOptions() const
     };
 }
 
-void OpenMeteoStandIn::setBehaviour(Behaviour behaviour)
-{
-    {
-        std::lock_guard<std::mutex> lock(m_mutex);
-        m_behaviour = behaviour;
-    }
-    m_changed.notify_all();
-}
-
 void OpenMeteoStandIn::answer(const httplib::Request &request, httplib::Response &response, const char *kind)
 {
     ++m_calls;
-    std::unique_lock<std::mutex> lock(m_mutex);
-    m_changed.wait_for(lock, std::chrono::seconds(20), [this] { return m_behaviour != Behaviour::Stall; });
+    for (int waited = 0; m_behaviour == Behaviour::Stall && waited < 2000; ++waited)
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
     const bool missingField = m_behaviour == Behaviour::MissingField;
-    lock.unlock();
 
     const bool europe = std::stod(request.get_param_value("latitude")) > 35;
     nlohmann::json body = recording(std::string(kind) + (europe ? "-berlin.json" : "-nairobi.json"));

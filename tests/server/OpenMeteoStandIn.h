@@ -6,20 +6,17 @@
 #include <httplib.h>
 
 #include <atomic>
-#include <condition_variable>
-#include <mutex>
 #include <thread>
 
-// Open-Meteo's air-quality and forecast APIs on loopback, answering the
-// recorded answers in tests/server/open-meteo/ moved forward in time so that
-// their current hour is now's. A place north of 35° gets Berlin's answers,
-// any other Nairobi's (outside Europe: no pollen, no ammonia).
+// Open-Meteo's air-quality and forecast APIs on loopback, answering the recorded answers in
+// tests/server/open-meteo/ moved forward so that their current hour is now's. A place north
+// of 35° gets Berlin's answers, any other Nairobi's (outside Europe: no pollen, no ammonia).
 class OpenMeteoStandIn
 {
 public:
     enum class Behaviour {
         Recorded,
-        Stall, // accepts and answers nothing until told otherwise
+        Stall, // accepts and answers nothing until told otherwise, for at most 20 s
         MissingField, // leaves out current pm2_5 and temperature_2m
     };
 
@@ -28,7 +25,7 @@ public:
 
     // The backend options that make it ask this stand-in and no other upstream.
     QStringList backendOptions() const;
-    void setBehaviour(Behaviour behaviour);
+    void setBehaviour(Behaviour behaviour) { m_behaviour = behaviour; }
     int calls() const { return m_calls; }
 
 private:
@@ -38,7 +35,5 @@ private:
     int m_port = 0;
     std::thread m_thread;
     std::atomic<int> m_calls { 0 };
-    std::mutex m_mutex;
-    std::condition_variable m_changed;
-    Behaviour m_behaviour = Behaviour::Recorded;
+    std::atomic<Behaviour> m_behaviour { Behaviour::Recorded };
 };

@@ -20,11 +20,10 @@ constexpr std::int64_t hour = 3600;
 constexpr std::int64_t week = 7 * 24 * hour;
 } // namespace
 
-// Real readings: the backend asks a stand-in for Open-Meteo on loopback, and
-// the app reads the answers. The recordings' numbers give hand-computed indices:
-// Berlin's PM2.5 averages 40.0 over the 24 hours to now (index 112, although
-// this hour alone reads 63.0, which would be "Unhealthy"); Nairobi's PM10
-// averages 100 (index 73).
+// Real readings: the backend asks a stand-in for Open-Meteo on loopback, and the app reads
+// the answers. The recordings give hand-computed indices: Berlin's PM2.5 averages 40.0 over
+// the 24 hours to now (index 112, although this hour alone reads 63.0, "Unhealthy");
+// Nairobi's PM10 averages 100 (index 73).
 class DevServerUpstreamTest : public QObject
 {
     Q_OBJECT

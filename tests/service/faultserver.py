@@ -2,12 +2,10 @@
 # SPDX-License-Identifier: GPL-3.0-or-later
 """HTTPS servers on loopback that misbehave the ways a real network can.
 
-The first path segment picks the behaviour (see the answer_ methods), so a
-test points the app at https://127.0.0.1:PORT/<behaviour>. The other host,
-127.0.0.2, answers "[]" to anything and prints "other-host <target>" for each
-request that reaches it. Once both listen, one line goes to standard output:
-"ready <port> <other-port> <certificate file>". They stop when standard input
-closes, so they never outlive their test.
+https://127.0.0.1:PORT/<behaviour> picks an answer_ method. The other host,
+127.0.0.2, answers "[]" and prints "other-host <target>" for each request.
+Once both listen, "ready <port> <other-port> <certificate file>" is printed.
+They stop when standard input closes, so they never outlive their test.
 """
 
 import http.server

