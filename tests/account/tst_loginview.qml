@@ -20,10 +20,6 @@ Item {
             return findChild(window.view, name);
         }
 
-        function shownScreen() {
-            return find("accountStack").currentItem;
-        }
-
         function waitForStack(depth) {
             const stack = find("accountStack");
             tryVerify(() => stack.depth === depth && !stack.busy, 2000);
@@ -42,7 +38,7 @@ Item {
         }
 
         function test_emptyLoginIsRefusedInTheAlert() {
-            const form = shownScreen();
+            const form = find("accountStack").currentItem;
             mouseClick(findChild(form, "loginButton"));
             const alert = findChild(form, "alert");
             tryVerify(() => alert.opened, 2000);
@@ -55,7 +51,7 @@ Item {
         function test_registerPickersShowTheModel() {
             mouseClick(find("registerNowLink"));
             waitForStack(2);
-            const register = shownScreen();
+            const register = find("accountStack").currentItem;
             const today = new Date();
             compare(findChild(register, "dayWheel").currentIndex, today.getDate() - 1, "the picker shows the model's date");
             compare(findChild(register, "yearWheel").currentIndex, today.getFullYear() - 1900);
@@ -71,7 +67,7 @@ Item {
         function test_resetButtonReachesTheModel() {
             mouseClick(find("forgetPasswordLink"));
             waitForStack(2);
-            const reset = shownScreen();
+            const reset = find("accountStack").currentItem;
             mouseClick(findChild(reset, "resetButton"));
             tryVerify(() => reset.viewModel.showingAlert, 2000);
             reset.viewModel.alertAccepted();

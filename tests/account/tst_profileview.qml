@@ -31,12 +31,9 @@ Item {
             return findChild(window.view, name);
         }
 
-        function stack() {
-            return find("profileStack");
-        }
-
         function waitForStack(depth) {
-            tryVerify(() => stack().depth === depth && !stack().busy, 3000);
+            const stack = find("profileStack");
+            tryVerify(() => stack.depth === depth && !stack.busy, 3000);
         }
 
         // Signs in against the backend; the session starts on the alert's "OK".
@@ -62,7 +59,7 @@ Item {
             // The bio, changed on the backend and on the device.
             mouseClick(find("bioLink"));
             waitForStack(2);
-            const bio = stack().currentItem;
+            const bio = find("profileStack").currentItem;
             compare(findChild(bio, "fullNameField").text, signedIn);
             compare(findChild(bio, "yearWheel").currentIndex, Number(login.date_dateofbirth.substring(0, 4)) - 1900);
             verify(!findChild(bio, "yearWheel").moving, "the wheels open on the stored day");
@@ -91,7 +88,7 @@ Item {
             compare(find("birthDateLine").text, "Date Of Birth: " + login.date_dateofbirth, "the wheels kept the stored day");
 
             // Logout, at the foot of the page, asks first, then hands the window to a fresh login.
-            const scroller = findChild(stack().currentItem, "scroller");
+            const scroller = findChild(find("profileStack").currentItem, "scroller");
             scroller.contentY = scroller.contentHeight - scroller.height;
             mouseClick(find("logoutButton"));
             const confirmation = find("logoutAlert");

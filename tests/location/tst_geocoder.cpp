@@ -15,6 +15,7 @@ namespace
 {
 const QString unavailable = QStringLiteral("The offline gazetteer is not available");
 const QGeoCoordinate nairobi(-1.2864, 36.8172);
+const QGeoCoordinate paris(48.85661, 2.35222);
 
 struct Outcome {
     bool completed = false;
@@ -51,26 +52,19 @@ std::unique_ptr<Geocoder> makeGeocoder(const QByteArray &backend, const QByteArr
     return std::make_unique<Geocoder>();
 }
 
-template<typename Call> Outcome await(Call call)
+// A reverse lookup for a point, a search for a text.
+Outcome lookUp(Geocoder &geocoder, const QVariant &asked)
 {
     Outcome outcome;
-    call(outcome.recorder());
+    if (asked.userType() == qMetaTypeId<QGeoCoordinate>())
+        geocoder.reverseGeocodeLocation(asked.value<QGeoCoordinate>(), outcome.recorder());
+    else
+        geocoder.geocodeAddressString(asked.toString(), outcome.recorder());
     outcome.completedInsideCall = outcome.completed;
     // Whether it completed is the outcome's to tell.
     static_cast<void>(QTest::qWaitFor([&outcome] { return outcome.completed; }, 5000));
     return outcome;
 }
-
-Outcome reverse(Geocoder &geocoder, const QGeoCoordinate &point)
-{
-    return await([&](Geocoder::Completion done) { geocoder.reverseGeocodeLocation(point, std::move(done)); });
-}
-
-Outcome search(Geocoder &geocoder, const QString &address)
-{
-    return await([&](Geocoder::Completion done) { geocoder.geocodeAddressString(address, std::move(done)); });
-}
-
 } // namespace
 
 class GeocoderTest : public QObject
@@ -78,57 +72,47 @@ class GeocoderTest : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void namesPointsAfterThePlaceTheyAreIn_data()
+    // A point is named after the place it is in; a name finds its first
+    // place, or "" when none is. The geocoder is offline unless told otherwise.
+    void offlineGazetteerNamesPointsAndFindsNames_data()
     {
-        QTest::addColumn<QGeoCoordinate>("point");
-        QTest::addColumn<QString>("place");
+        QTest::addColumn<QVariant>("asked");
+        QTest::addColumn<QString>("first");
+        const auto point = [](double latitude, double longitude) { return QVariant::fromValue(QGeoCoordinate(latitude, longitude)); };
         // Nearer Saint-Ouen's centre than Paris's, but well inside Paris.
-        QTest::newRow("Montmartre") << QGeoCoordinate(48.8867, 2.3431) << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
+        QTest::newRow("Montmartre") << point(48.8867, 2.3431) << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
         // A town beside a city keeps its own name.
-        QTest::newRow("Neuilly-sur-Seine") << QGeoCoordinate(48.8846, 2.2697) << QStringLiteral("Neuilly-sur-Seine|-|Neuilly-sur-Seine|Île-de-France|-|France");
+        QTest::newRow("Neuilly-sur-Seine") << point(48.8846, 2.2697) << QStringLiteral("Neuilly-sur-Seine|-|Neuilly-sur-Seine|Île-de-France|-|France");
         // Far out at sea, the nearest place of all, as a brute-force search of
         // the file finds it: Hanga Roa by 13 km from Adamstown, and Funafuti,
         // across the antimeridian, by 230 m from Alapi Village.
-        QTest::newRow("the Pacific's pole of inaccessibility") << QGeoCoordinate(-48.9, -123.4) << QStringLiteral("Hanga Roa|-|Hanga Roa|Valparaiso|-|Chile");
-        QTest::newRow("beside the antimeridian") << QGeoCoordinate(-10, 179.9) << QStringLiteral("Funafuti|-|Funafuti|Funafuti|-|Tuvalu");
-    }
-
-    void namesPointsAfterThePlaceTheyAreIn()
-    {
-        QFETCH(QGeoCoordinate, point);
-        const Outcome outcome = reverse(*makeGeocoder({}), point);
-        QCOMPARE(outcome.error, QString());
-        QCOMPARE(outcome.placemarks.size(), 1);
-        QTEST(described(outcome.placemarks.constFirst()), "place");
-        QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), point);
-    }
-
-    // The first place found, or "" when none is. Manila and Manaus are
-    // bigger, but only Man is called that.
-    void findsPlacesByName_data()
-    {
-        QTest::addColumn<QString>("address");
-        QTest::addColumn<QString>("first");
-        QTest::newRow("upper case with a diaeresis") << QStringLiteral("NAÏROBI") << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
-        QTest::newRow("prefix") << QStringLiteral("Nairob") << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
-        QTest::newRow("full width") << QStringLiteral("Ｔｏｋｙｏ") << QStringLiteral("Tokyo|-|Tokyo|Tokyo|-|Japan");
-        QTest::newRow("hyphen, spaces and accents") << QStringLiteral("  saint   etienne ")
+        QTest::newRow("the Pacific's pole of inaccessibility") << point(-48.9, -123.4) << QStringLiteral("Hanga Roa|-|Hanga Roa|Valparaiso|-|Chile");
+        QTest::newRow("beside the antimeridian") << point(-10, 179.9) << QStringLiteral("Funafuti|-|Funafuti|Funafuti|-|Tuvalu");
+        QTest::newRow("upper case with a diaeresis") << QVariant(QStringLiteral("NAÏROBI")) << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("prefix") << QVariant(QStringLiteral("Nairob")) << QStringLiteral("Nairobi|-|Nairobi|Nairobi County|-|Kenya");
+        QTest::newRow("full width") << QVariant(QStringLiteral("Ｔｏｋｙｏ")) << QStringLiteral("Tokyo|-|Tokyo|Tokyo|-|Japan");
+        QTest::newRow("hyphen, spaces and accents") << QVariant(QStringLiteral("  saint   etienne "))
                                                     << QStringLiteral("Saint-Étienne|-|Saint-Étienne|Auvergne-Rhône-Alpes|-|France");
-        QTest::newRow("biggest of a name") << QStringLiteral("Paris") << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
-        QTest::newRow("region named") << QStringLiteral("Paris, Texas") << QStringLiteral("Paris|-|Paris|Texas|-|United States");
-        QTest::newRow("country code") << QStringLiteral("paris, ca") << QStringLiteral("Paris|-|Paris|Ontario|-|Canada");
-        QTest::newRow("exact name before bigger prefixes") << QStringLiteral("Man") << QStringLiteral("Man|-|Man|Montagnes|-|Ivory Coast");
-        QTest::newRow("only a country") << QStringLiteral(" , Kenya") << QString();
+        QTest::newRow("biggest of a name") << QVariant(QStringLiteral("Paris")) << QStringLiteral("Paris|-|Paris|Île-de-France|-|France");
+        QTest::newRow("region named") << QVariant(QStringLiteral("Paris, Texas")) << QStringLiteral("Paris|-|Paris|Texas|-|United States");
+        QTest::newRow("country code") << QVariant(QStringLiteral("paris, ca")) << QStringLiteral("Paris|-|Paris|Ontario|-|Canada");
+        // Manila and Manaus are bigger, but only Man is called that.
+        QTest::newRow("exact name before bigger prefixes") << QVariant(QStringLiteral("Man")) << QStringLiteral("Man|-|Man|Montagnes|-|Ivory Coast");
+        QTest::newRow("only a country") << QVariant(QStringLiteral(" , Kenya")) << QString();
     }
 
-    void findsPlacesByName()
+    void offlineGazetteerNamesPointsAndFindsNames()
     {
-        QFETCH(QString, address);
-        const Outcome outcome = search(*makeGeocoder("offline"), address);
+        QFETCH(QVariant, asked);
+        const Outcome outcome = lookUp(*makeGeocoder({}), asked);
         QVERIFY(outcome.completed);
         QCOMPARE(outcome.error, QString());
         QVERIFY(outcome.placemarks.size() <= 10);
         QTEST(outcome.placemarks.isEmpty() ? QString() : described(outcome.placemarks.constFirst()), "first");
+        if (asked.userType() == qMetaTypeId<QGeoCoordinate>()) {
+            QCOMPARE(outcome.placemarks.size(), 1);
+            QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), asked.value<QGeoCoordinate>());
+        }
     }
 
     void unusableGazetteerIsAnError()
@@ -136,8 +120,8 @@ private Q_SLOTS:
         // A file that is there but is no database: this test's own executable.
         for (const QByteArray &path : { QByteArray("/nonexistent/gazetteer.sqlite"), QFile::encodeName(QCoreApplication::applicationFilePath()) }) {
             const auto geocoder = makeGeocoder("offline", path);
-            QCOMPARE(reverse(*geocoder, nairobi).error, unavailable);
-            QCOMPARE(search(*geocoder, QStringLiteral("Nairobi")).error, unavailable);
+            for (const QVariant &asked : { QVariant::fromValue(nairobi), QVariant(QStringLiteral("Nairobi")) })
+                QCOMPARE(lookUp(*geocoder, asked).error, unavailable);
         }
     }
 
@@ -159,7 +143,7 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, backend);
         auto geocoder = makeGeocoder(backend);
-        for (const Outcome &outcome : { reverse(*geocoder, nairobi), search(*geocoder, QStringLiteral("Nairobi")) }) {
+        for (const Outcome &outcome : { lookUp(*geocoder, QVariant::fromValue(nairobi)), lookUp(*geocoder, QStringLiteral("Nairobi")) }) {
             QVERIFY(!outcome.completedInsideCall);
             QVERIFY(outcome.completed);
             QCOMPARE(outcome.thread, QThread::currentThread());
@@ -176,47 +160,46 @@ private Q_SLOTS:
 
     void asksNominatimAndReportsItsFailures_data()
     {
-        QTest::addColumn<QByteArray>("path");
+        QTest::addColumn<QVariant>("asked");
         QTest::addColumn<int>("status");
         QTest::addColumn<QByteArray>("answer");
         QTest::addColumn<QString>("found"); // the places, one a line, or "error"
-        QTest::newRow("address") << QByteArray("/search") << 200 << QByteArray(R"([{"lat":"-1.2832533","lon":"36.8172449","display_name":"Kenyatta Avenue",
+        const QVariant address(QStringLiteral("Nairobi, Kenya"));
+        QTest::newRow("address") << address << 200 << QByteArray(R"([{"lat":"-1.2832533","lon":"36.8172449","display_name":"Kenyatta Avenue",
 "address":{"road":"Kenyatta Avenue","city":"Nairobi","state":"Nairobi County","postcode":"00100","country":"Kenya","country_code":"ke"}},
 {"lat":"-1.3","lon":"36.8","display_name":"Nairobi, Kenya","address":{"city":"Nairobi","country":"Kenya","country_code":"ke"}}])")
                                  << QStringLiteral("Kenyatta Avenue|Kenyatta Avenue|Nairobi|Nairobi County|00100|Kenya\nNairobi|-|Nairobi|-|-|Kenya");
-        QTest::newRow("point") << QByteArray("/reverse") << 200 << QByteArray(R"({"lat":"48.8566","lon":"2.3522","display_name":"Rue de Rivoli",
+        QTest::newRow("point") << QVariant::fromValue(paris) << 200 << QByteArray(R"({"lat":"48.8566","lon":"2.3522","display_name":"Rue de Rivoli",
 "address":{"road":"Rue de Rivoli","city":"Paris","state":"Île-de-France","postcode":"75004","country":"France","country_code":"fr"}})")
                                << QStringLiteral("Rue de Rivoli|Rue de Rivoli|Paris|Île-de-France|75004|France");
-        QTest::newRow("point at sea") << QByteArray("/reverse") << 200 << QByteArray(R"({"error":"Unable to geocode"})") << QString();
-        QTest::newRow("server failure") << QByteArray("/search") << 503 << QByteArray("Service Unavailable") << QStringLiteral("error");
+        QTest::newRow("point at sea") << QVariant::fromValue(paris) << 200 << QByteArray(R"({"error":"Unable to geocode"})") << QString();
+        QTest::newRow("server failure") << address << 503 << QByteArray("Service Unavailable") << QStringLiteral("error");
     }
 
     void asksNominatimAndReportsItsFailures()
     {
-        QFETCH(QByteArray, path);
+        QFETCH(QVariant, asked);
         QFETCH(int, status);
         QFETCH(QByteArray, answer);
-        m_nominatim.answer(path.toStdString(), status, answer.toStdString());
+        const bool searching = asked.userType() == QMetaType::QString;
+        m_nominatim.answer(searching ? "/search" : "/reverse", status, answer.toStdString());
         m_nominatim.takeTargets();
-        const auto geocoder = makeGeocoder("nominatim:" + m_nominatim.url().toUtf8() + '/');
-        const QGeoCoordinate point(48.85661, 2.35222);
-        const bool searching = path == "/search";
-        const Outcome outcome = searching ? search(*geocoder, QStringLiteral("Nairobi, Kenya")) : reverse(*geocoder, point);
+        const Outcome outcome = lookUp(*makeGeocoder("nominatim:" + m_nominatim.url().toUtf8() + '/'), asked);
         QStringList found;
         for (const Placemark &place : outcome.placemarks)
             found.append(described(place));
         QTEST(outcome.error.isEmpty() ? found.join(QLatin1Char('\n')) : QStringLiteral("error"), "found");
         const QUrlQuery sent(QUrl(m_nominatim.takeTargets().value(0)));
         if (searching) {
-            QCOMPARE(sent.queryItemValue(QStringLiteral("q"), QUrl::FullyDecoded), QStringLiteral("Nairobi, Kenya"));
+            QCOMPARE(sent.queryItemValue(QStringLiteral("q"), QUrl::FullyDecoded), asked.toString());
             QCOMPARE(sent.queryItemValue(QStringLiteral("limit")), QStringLiteral("10"));
         } else {
             // The plugin writes six significant digits, a dozen metres at most.
             const QGeoCoordinate sentPoint(sent.queryItemValue(QStringLiteral("lat")).toDouble(), sent.queryItemValue(QStringLiteral("lon")).toDouble());
-            QVERIFY(sentPoint.distanceTo(point) < 15);
+            QVERIFY(sentPoint.distanceTo(paris) < 15);
         }
         if (!found.isEmpty())
-            QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), searching ? QGeoCoordinate(-1.2832533, 36.8172449) : point);
+            QCOMPARE(outcome.placemarks.constFirst().location.value_or(QGeoCoordinate()), searching ? QGeoCoordinate(-1.2832533, 36.8172449) : paris);
     }
 
 private:

@@ -54,7 +54,6 @@ class FaultHandler(http.server.BaseHTTPRequestHandler):
         self.start_answer(302, Location="https://127.0.0.2:%d/away/%s" % (self.other_port, rest), Content_Length="0")
 
     def answer_trickle(self, _rest):
-        """Announces 1000 bytes, then sends one every half second."""
         self.close_connection = True
         self.start_answer(Content_Length="1000")
         while True:
@@ -62,7 +61,6 @@ class FaultHandler(http.server.BaseHTTPRequestHandler):
             time.sleep(0.5)
 
     def answer_stall(self, _rest):
-        """Reads the request and never answers."""
         self.close_connection = True
         while self.connection.recv(1):
             pass
@@ -80,7 +78,6 @@ class FaultHandler(http.server.BaseHTTPRequestHandler):
             self.wfile.write(BLOCK)
 
     def answer_chunked(self, _rest):
-        """As big, the size unannounced."""
         self.start_answer(Transfer_Encoding="chunked")
         for _ in range(BLOCKS_IN_BIG_BODY):
             self.wfile.write(b"%x\r\n%s\r\n" % (len(BLOCK), BLOCK))

@@ -5,10 +5,9 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-// Built here with the packaged app's relative certificate name (see
-// CMakeLists.txt): the installed app finds the certificate its backend wrote
-// in the user's data directory, while a path given in the environment, as
-// `make run` gives one relative to the checkout, is taken as it stands.
+// Built with the packaged app's relative certificate name (see CMakeLists.txt):
+// the installed app finds its backend's certificate in the user's data
+// directory; a path in the environment, as `make run` gives, is taken as is.
 class ServiceConfigTest : public QObject
 {
     Q_OBJECT

@@ -34,18 +34,9 @@ const QString secret = QStringLiteral("hunter2secret");
 
 bool isPressable(QAccessible::Role role)
 {
-    switch (role) {
-    case QAccessible::PushButton:
-    case QAccessible::Link:
-    case QAccessible::MenuItem:
-    case QAccessible::PageTab:
-    case QAccessible::CheckBox:
-    case QAccessible::RadioButton:
-    case QAccessible::ListItem:
-        return true;
-    default:
-        return false;
-    }
+    static const QList<QAccessible::Role> pressable { QAccessible::PushButton, QAccessible::Link,        QAccessible::MenuItem, QAccessible::PageTab,
+                                                      QAccessible::CheckBox,   QAccessible::RadioButton, QAccessible::ListItem };
+    return pressable.contains(role);
 }
 
 // QObject::isSignalConnected is protected; a derived class may name it.
