@@ -10,9 +10,9 @@
 // startup.py, in its environment.
 // Usage: shell_switch [rounds]
 #include "common/ScreenWindow.h"
+#include "common/SignedInUser.h"
 #include "shell/QmlTypes.h"
 #include "shell/RootController.h"
-#include "storage/SQliteLogin.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
@@ -81,8 +81,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     QCoreApplication::setApplicationName(QStringLiteral("tarnelo"));
     const int rounds = argc > 1 ? std::max(1, std::atoi(argv[1])) : 20;
-    SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                         QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+    storeAmina();
     RootController rootController;
     QQmlEngine engine;
     QmlTypes::registerAll(engine, &rootController);

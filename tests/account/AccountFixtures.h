@@ -2,7 +2,7 @@
 #pragma once
 
 #include "account/AccountScreenModel.h"
-#include "storage/SQliteLogin.h"
+#include "common/SignedInUser.h"
 
 #include <QTest>
 
@@ -27,10 +27,3 @@ inline constexpr char savedMedicalProfile[]
     = R"([{"id":"3","userid":"12","conditionstatus":"Yes","conditionname":"Asthma","emergencycontact":"Juma Otieno","phonenumber":"0722000111",)"
       R"("relationship":"Spouse","weight":"64","height":"5.6","smokerstatus":"1-10 Light smoker","smoker":"Smoker","moredetails":"Inhaler at night",)"
       R"("scode":"1","messageresponse":"ok"}])";
-
-// Amina, user 12, signed in on this device.
-inline void storeAmina(const QString &gender = QStringLiteral("2"), const QString &dateofbirth = QStringLiteral("1990-04-02"))
-{
-    SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"), dateofbirth,
-                         gender, QStringLiteral("2026-01-05"));
-}

@@ -5,6 +5,7 @@
 // as a person with low vision meets it: every text colour reaches 4.5:1
 // against its background.
 #include "common/ScreenWindow.h"
+#include "common/SignedInUser.h"
 #include "shell/HomeDestinations.h"
 #include "shell/QmlTypes.h"
 #include "shell/ReturnPressesButtons.h"
@@ -229,8 +230,7 @@ private:
     {
         SQliteLogin().deleteAll();
         if (signedIn)
-            SQliteLogin().insert(QStringLiteral("12"), QStringLiteral("Amina Wanjiru"), QStringLiteral("0712"), QStringLiteral("amina@example.com"),
-                                 QStringLiteral("1990-04-02"), QStringLiteral("2"), QStringLiteral("2026-01-05"));
+            storeAmina();
         return showScreen(*m_engine, window, view, QSize(390, 844));
     }
 
